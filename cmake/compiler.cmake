@@ -1,0 +1,23 @@
+# Compiler settings that every target shares: warnings are errors, sanitizers by preset, a compiler cache if there is one.
+
+option(TARNWELL_SANITIZE "Build with the address and undefined behaviour sanitizers" OFF)
+
+find_program(CCACHE ccache)
+if(CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE})
+endif()
+
+add_library(tarnwell_compiler INTERFACE)
+target_compile_options(tarnwell_compiler INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror -Winvalid-pch)
+target_compile_definitions(tarnwell_compiler INTERFACE
+  QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH QT_STRICT_ITERATORS)
+
+if(CCACHE)
+  target_compile_options(tarnwell_compiler INTERFACE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
+endif()
+
+if(TARNWELL_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()

@@ -1,0 +1,172 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+/// The program's doors to the outside world, one class a concern. The logic knows only these; real ones stand under
+/// platform/qt, platform/posix and platform/windows, and the tests bring their own.
+///
+/// All calls are made on the one thread of the window events. The composition root owns the ports and keeps them until
+/// the program has ended.
+namespace tarnwell {
+
+/// Thrown by every port call that waits, on its return, once the end of the program was asked for: no later line of an
+/// interrupted handler may run. Only the dispatcher of events catches it.
+struct ProgramEnded {};
+
+/// Lets windows, tray, sockets and timers live while a handler waits. Any event may be served inside these calls.
+class EventPump {
+public:
+    virtual ~EventPump() = default;
+    /// Serves what is pending and returns.
+    virtual void pump() = 0;
+    /// Serves events as they come, asleep in between, until `milliseconds` have gone by.
+    virtual void pumpFor(int milliseconds) = 0;
+    /// Sleeps until an event comes and serves it; gives up after `milliseconds`.
+    virtual void waitForEvent(int milliseconds) = 0;
+    /// Asks the program to end, and returns. Every waiting call that is under way or still to come throws
+    /// ProgramEnded.
+    virtual void end() = 0;
+    virtual bool ended() const = 0;
+};
+
+class Clock {
+public:
+    virtual ~Clock() = default;
+    /// Milliseconds since some moment before the start of the program; wraps round.
+    virtual qint32 tickCount() const = 0;
+    /// Local time of day.
+    virtual double secondsSinceMidnight() const = 0;
+};
+
+/// A console program that was started hidden with pipes on its standard streams. Destroying this object neither ends
+/// the program nor waits for it; what the program still prints is then lost.
+class ChildProcess {
+public:
+    virtual ~ChildProcess() = default;
+    /// Whether the process lives. It may have printed more than was read so far either way.
+    virtual bool running() = 0;
+    /// Takes what has arrived of its standard output and standard error, in the order of arrival, at most `maximum`
+    /// bytes; empty if nothing waits. Never blocks.
+    virtual QByteArray read(qsizetype maximum) = 0;
+    /// Writes to its standard input. Returns the number of bytes taken, -1 on failure.
+    virtual qint64 write(const QByteArray& bytes) = 0;
+    virtual qint64 processId() const = 0;
+    /// Sends the interrupt that Ctrl+C at its console would send. Returns at once; the program may live on for as
+    /// long as it likes.
+    virtual void interrupt() = 0;
+};
+
+class ProcessLauncher {
+public:
+    virtual ~ProcessLauncher() = default;
+    /// Starts a command line: the program's path, which may hold blanks and is not quoted, a blank, the arguments.
+    /// On Windows the text goes to the system as it is. Elsewhere the program is the shortest beginning, up to a
+    /// blank, that names a file, and the rest is split as a Windows program would split it: double quotes group, two
+    /// of them are an empty argument, nothing is escaped. Null if the program cannot be started.
+    virtual std::unique_ptr<ChildProcess> start(const QString& commandLine) = 0;
+};
+
+/// Other processes of this machine, by their id.
+class Processes {
+public:
+    virtual ~Processes() = default;
+    /// Asks a process to end as closing its window would. False if there is nothing that can be asked.
+    virtual bool requestClose(qint64 processId) = 0;
+    virtual bool exists(qint64 processId) const = 0;
+};
+
+enum class MessageIcon { Exclamation, Stop };
+
+/// What the open dialog offers: the filter is a list of "words|pattern|" pairs.
+struct OpenFileRequest {
+    QString title{};      ///< empty: the platform's own
+    QString filter{};
+    QString folder{};     ///< empty: the dialog's own start folder
+    bool mustExist = false;
+};
+
+/// Boxes that wait for the user, with the program's title. All of them pump events while they are open.
+class Dialogs {
+public:
+    virtual ~Dialogs() = default;
+    /// A plain text with one OK button.
+    virtual void message(const QString& text, MessageIcon icon, const QString& title) = 0;
+    /// The chosen path in the platform's own form; nothing if the user cancelled.
+    virtual std::optional<QString> openFile(const OpenFileRequest& request) = 0;
+};
+
+/// The program's one icon in the system tray. On a desktop without a tray every call does nothing.
+class Tray {
+public:
+    virtual ~Tray() = default;
+    virtual bool available() const = 0;
+    virtual void add(const QString& tip) = 0;
+    virtual void setTip(const QString& tip) = 0;
+    virtual void showBalloon(const QString& title, const QString& text) = 0;
+    virtual void remove() = 0;
+    /// What the user does to the icon; attached by the program before `add`.
+    std::function<void()> doubleClicked;
+    std::function<void()> rightClicked;
+};
+
+class Power {
+public:
+    virtual ~Power() = default;
+    /// Both start the system's own command without a wait and without a window; a refusal goes unnoticed.
+    virtual void shutDown() = 0;
+    virtual void standBy() = 0;
+};
+
+/// One ICMP echo.
+class Ping {
+public:
+    struct Reply {
+        int status = -1;     ///< 0 for success, else the code of the failure
+        int roundTripMs = 0; ///< meaningful with status 0; may be 0
+    };
+    virtual ~Ping() = default;
+    /// Sends one packet to an IPv4 address (in host byte order) and waits for its reply without pumping events.
+    virtual Reply sendEcho(quint32 address, const QByteArray& payload, int timeoutMs) = 0;
+};
+
+class SystemFolders {
+public:
+    virtual ~SystemFolders() = default;
+    /// The folder that the program's file is in, in the platform's own form, without a separator at its end unless it
+    /// is a root.
+    virtual QString programFolder() const = 0;
+    /// The system's command interpreter, as a path.
+    virtual QString commandInterpreter() const = 0;
+};
+
+/// The screen and what belongs to it, in the twips of the windows.
+class WindowManager {
+public:
+    struct Size {
+        int width = 0, height = 0;
+    };
+    virtual ~WindowManager() = default;
+    virtual Size screenSize() const = 0;
+};
+
+/// All ports together, as the composition root hands them to the program.
+struct Ports {
+    EventPump& pump;
+    Clock& clock;
+    ProcessLauncher& launcher;
+    Processes& processes;
+    Dialogs& dialogs;
+    Tray& tray;
+    Power& power;
+    Ping& ping;
+    SystemFolders& folders;
+    WindowManager& windows;
+};
+
+} // namespace tarnwell

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "ui/controls.h"
+#include "ui/menu.h"
+
+namespace tarnwell::ui {
+
+enum class WindowState { Normal, Minimised };
+enum class MousePointer { Default, Hourglass };
+
+/// Runs an event handler and stops whatever it throws, so that nothing passes through the toolkit.
+using Dispatcher = std::function<void(const std::function<void()>& handler)>;
+
+/// A window as data. It is not loaded, loaded and hidden, or shown.
+class Form : public PropertyOwner {
+public:
+    Form(const QString& name, const Declared& declared);
+    virtual ~Form() = default;
+
+    const QString name;
+    Property<QString> caption;
+    Property<int> left, top, width, height; ///< twips; left and top are of the screen
+    Property<WindowState> windowState;
+    Property<MousePointer> mousePointer;
+    Property<bool> visible; ///< follows show and hide
+    Property<std::optional<std::int32_t>> backColor;
+
+    Event<> Load;
+    /// Asked in this order before the window closes; a handler that sets `cancel` keeps it open.
+    Event<bool& /*cancel*/> QueryUnload, Unload;
+
+    bool loaded() const { return loaded_; }
+    bool shown() const { return visible; }
+
+    void load(); ///< runs Load unless the window is loaded
+    void show(); ///< loads it if need be
+    void hide();
+    /// Closes the window: every control goes back to its declared start state. Returns false if a handler refused.
+    /// A call from inside its own Unload handler does nothing.
+    bool unload();
+
+    /// The control collection, in the order of declaration.
+    const std::vector<Control*>& controls() const { return controls_; }
+    const std::vector<PopupMenu*>& menus() const { return menus_; }
+
+    using PropertyOwner::add;
+    void add(Control& control) { controls_.push_back(&control); }
+    void add(PopupMenu& menu) { menus_.push_back(&menu); }
+
+    /// Runs the handler of something that the user or the desktop did.
+    void dispatch(const std::function<void()>& handler) const;
+    Dispatcher dispatcher;
+
+private:
+    void reset();
+
+    std::vector<Control*> controls_;
+    std::vector<PopupMenu*> menus_;
+    bool loaded_ = false;
+    bool unloading_ = false;
+};
+
+/// A window that is loaded when it is touched: every use goes through `->`.
+template <class FormType>
+class LoadedOnTouch {
+public:
+    FormType* operator->() {
+        form_.load();
+        return &form_;
+    }
+
+    /// The window as it is, without loading it.
+    FormType& untouched() { return form_; }
+    const FormType& untouched() const { return form_; }
+
+private:
+    FormType form_;
+};
+
+} // namespace tarnwell::ui
