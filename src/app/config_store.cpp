@@ -1,1 +1,122 @@
 #include "app/config_store.h"
+
+#include "app/ini_text.h"
+#include "interpreter/text_primitives.h"
+#include "platform/ports.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include <algorithm>
+#include <limits>
+
+namespace tarnwell {
+
+namespace {
+
+constexpr qsizetype kLongestValue = 254;
+const QString kSection = QStringLiteral("tarnwell");
+
+struct Default {
+    const char* key;
+    const char* value;
+};
+
+constexpr Default kDefaults[] = {
+    {"DefaultISO", ""},
+    {"ClosePS2", "0"},
+    {"TurnOffPC", "0"},
+    {"StandbyPC", "0"},
+    {"TurnOffPS2", "0"},
+    {"IP", "192.168.0.10"},
+    {"StayOnTop", "1"},
+    {"ViewOutput", "0"},
+    {"BalloonTips", "0"},
+    {"Backcolor", "-2147483633"}, // the system's button face
+    {"Forecolor", "-2147483630"}, // the system's button text
+    {"UseColor", "0"},
+    {"Font", "Tahoma,8,False,False,"},
+    {"StatusServer", "0"},
+    {"CloseStatus", "1"},
+    {"TaskSound", "[none selected]"},
+    {"TasksSound", "[none selected]"},
+};
+
+IniText load(const QString& path) {
+    QFile file(path);
+    return IniText(file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray());
+}
+
+void save(const IniText& ini, const QString& path) {
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return;
+    file.write(ini.bytes());
+    file.commit();
+}
+
+} // namespace
+
+QString ConfigStore::AppFolder() const {
+    const QString folder = folders_.programFolder();
+    return folder.endsWith(QDir::separator()) ? folder : folder + QDir::separator();
+}
+
+QString ConfigStore::ToolPath() const {
+    return AppFolder() + "tarnwell.exe";
+}
+
+QString ConfigStore::path() const {
+    return AppFolder() + "config.cfg";
+}
+
+bool ConfigStore::exists() const {
+    return FileExists(path());
+}
+
+bool ConfigStore::toolExists() const {
+    return FileExists(ToolPath());
+}
+
+QString ConfigStore::text(const QString& key) const {
+    return ConfigRead(kSection, key, path());
+}
+
+int ConfigStore::number(const QString& key) const {
+    constexpr double lowest = std::numeric_limits<int>::min(), highest = std::numeric_limits<int>::max();
+    return static_cast<int>(std::clamp(Val(text(key)), lowest, highest));
+}
+
+void ConfigStore::write(const QString& key, const QString& value) const {
+    ConfigWrite(kSection, key, value, path());
+}
+
+void ConfigStore::WriteDefaultConfig() const {
+    IniText ini = load(path());
+    for (const auto& [key, value] : kDefaults)
+        ini.setValue(kSection.toLocal8Bit(), key, value);
+    save(ini, path());
+}
+
+bool FileExists(const QString& path) {
+    const QFileInfo file(path);
+    const QString name = file.fileName();
+    if (!name.contains('*') && !name.contains('?'))
+        return file.isFile();
+    return !QDir(file.path()).entryList({name}, QDir::Files).isEmpty();
+}
+
+QString ConfigRead(const QString& section, const QString& key, const QString& path) {
+    const auto value = load(path).value(section.toLocal8Bit(), key.toLocal8Bit());
+    return QString::fromLocal8Bit(value.value_or(QByteArray())).left(kLongestValue);
+}
+
+void ConfigWrite(const QString& section, const QString& key, const QString& value, const QString& path) {
+    IniText ini = load(path);
+    ini.setValue(section.toLocal8Bit(), key.toLocal8Bit(), value.toLocal8Bit());
+    save(ini, path);
+}
+
+} // namespace tarnwell
