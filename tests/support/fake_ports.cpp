@@ -1,0 +1,197 @@
+#include "support/fake_ports.h"
+
+#include <cmath>
+#include <limits>
+#include <stdexcept>
+
+namespace tarnwell::test {
+
+namespace {
+
+constexpr int kSecondsADay = 24 * 60 * 60;
+constexpr int kPatience = 1'000'000;
+
+/// The program's own end of a child.
+class ChildHandle : public ChildProcess {
+public:
+    ChildHandle(const FakeClock& clock, std::shared_ptr<FakeChild> child)
+        : clock_(clock), child_(std::move(child)) {}
+
+    bool running() override { return child_->runningAt(clock_.now); }
+
+    QByteArray read(qsizetype maximum) override {
+        collect();
+        const QByteArray taken = waiting_.left(maximum);
+        waiting_.remove(0, taken.size());
+        return taken;
+    }
+
+    qint64 write(const QByteArray& bytes) override {
+        if (!running())
+            return -1;
+        child_->written += bytes;
+        return bytes.size();
+    }
+
+    qint64 processId() const override { return child_->processId; }
+
+    void interrupt() override {
+        ++child_->interrupts;
+        ChildScript& script = child_->script;
+        if (!running() || !script.heedsInterrupt)
+            return;
+        collect();
+        script.output = {{script.farewell, elapsed()}};
+        collected_ = 0;
+        // Even without a delay it lives through this moment, so that it is seen to be ending.
+        script.endsAtMs = elapsed() + qMax(1, script.farewellTakesMs);
+    }
+
+private:
+    int elapsed() const { return static_cast<int>(clock_.now - child_->startedAt); }
+
+    void collect() {
+        const auto& output = child_->script.output;
+        while (collected_ < output.size() && output[collected_].atMs <= elapsed())
+            waiting_ += output[collected_++].bytes;
+    }
+
+    const FakeClock& clock_;
+    std::shared_ptr<FakeChild> child_;
+    std::size_t collected_ = 0;
+    QByteArray waiting_;
+};
+
+} // namespace
+
+double FakeClock::secondsSinceMidnight() const {
+    return std::fmod(secondsAtZero + static_cast<double>(now) / 1000, kSecondsADay);
+}
+
+void FakeEventPump::after(int milliseconds, std::function<void()> event) {
+    events_.emplace(clock_.now + milliseconds, std::move(event));
+}
+
+void FakeEventPump::pump() {
+    countCall();
+    serveUntil(clock_.now, false);
+    throwIfEnded();
+}
+
+void FakeEventPump::pumpFor(int milliseconds) {
+    countCall();
+    serveUntil(clock_.now + milliseconds, false);
+    throwIfEnded();
+}
+
+void FakeEventPump::waitForEvent(int milliseconds) {
+    countCall();
+    serveUntil(clock_.now + milliseconds, true);
+    throwIfEnded();
+}
+
+void FakeEventPump::throwIfEnded() const {
+    if (ended_)
+        throw ProgramEnded();
+}
+
+void FakeEventPump::countCall() {
+    throwIfEnded();
+    if (++pumps > kPatience)
+        throw std::runtime_error("The program waits for something that never comes.");
+}
+
+/// Serves what falls due until then, in the order of time; an event can wait itself, and so move the clock
+/// on.
+void FakeEventPump::serveUntil(qint64 time, bool onlyOne) {
+    while (!events_.empty() && events_.begin()->first <= time) {
+        auto next = events_.extract(events_.begin());
+        clock_.now = qMax(clock_.now, next.key());
+        next.mapped()();
+        if (onlyOne || ended_)
+            return;
+    }
+    clock_.now = qMax(clock_.now, time);
+}
+
+QStringList FakeProcessLauncher::commandLines() const {
+    QStringList lines;
+    for (const auto& child : children)
+        lines.append(child->commandLine);
+    return lines;
+}
+
+std::unique_ptr<ChildProcess> FakeProcessLauncher::start(const QString& commandLine) {
+    constexpr qint64 kFirstProcessId = 4000;
+    const std::optional<ChildScript> found = script(commandLine);
+    if (!found)
+        return nullptr;
+    children.push_back(std::make_shared<FakeChild>(
+        FakeChild{.commandLine = commandLine,
+                  .processId = kFirstProcessId + static_cast<qint64>(children.size()),
+                  .script = *found,
+                  .startedAt = clock_.now}));
+    return std::make_unique<ChildHandle>(clock_, children.back());
+}
+
+ChildScript FakeProcessLauncher::answerTo(const QString& commandLine) const {
+    for (const auto& [part, answer] : answers_) {
+        if (commandLine.contains(part))
+            return answer;
+    }
+    return {};
+}
+
+bool FakeProcesses::requestClose(qint64 processId) {
+    closeRequests.push_back(processId);
+    return canBeClosed;
+}
+
+bool FakeProcesses::exists(qint64 processId) const {
+    for (const auto& child : launcher_.children) {
+        if (child->processId == processId)
+            return child->runningAt(clock_.now);
+    }
+    return false;
+}
+
+QStringList FakeDialogs::messageTexts() const {
+    QStringList texts;
+    for (const Message& message : messages)
+        texts.append(message.text);
+    return texts;
+}
+
+void FakeDialogs::message(const QString& text, MessageIcon icon, const QString& title) {
+    messages.push_back({text, icon, title});
+    waitForUser();
+}
+
+std::optional<QString> FakeDialogs::openFile(const OpenFileRequest& request) {
+    openFileRequests.push_back(request);
+    waitForUser();
+    if (openFileAnswers.empty())
+        return std::nullopt;
+    const std::optional<QString> answer = openFileAnswers.front();
+    openFileAnswers.pop_front();
+    return answer;
+}
+
+void FakeDialogs::waitForUser() const {
+    if (whileOpen)
+        whileOpen();
+    pump_.throwIfEnded();
+}
+
+void FakeTray::add(const QString& firstTip) {
+    shown = true;
+    tips.append(firstTip);
+}
+
+Ping::Reply FakePing::sendEcho(quint32 address, const QByteArray& payload, int timeoutMs) {
+    echoes.push_back({address, payload, timeoutMs});
+    const auto known = replies.find(address);
+    return known == replies.end() ? reply : known->second;
+}
+
+} // namespace tarnwell::test

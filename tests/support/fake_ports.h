@@ -1,0 +1,226 @@
+#pragma once
+
+#include "platform/ports.h"
+
+#include <QTemporaryDir>
+
+#include <deque>
+#include <map>
+#include <vector>
+
+/// Ports that do nothing outside the test: time passes only while somebody waits, and everything is
+/// remembered.
+namespace tarnwell::test {
+
+class FakeClock : public Clock {
+public:
+    qint64 now = 1000;                   ///< milliseconds
+    double secondsAtZero = 12 * 60 * 60; ///< time of day when `now` was 0
+
+    qint32 tickCount() const override { return static_cast<qint32>(now); }
+    double secondsSinceMidnight() const override;
+};
+
+class FakeEventPump : public EventPump {
+public:
+    explicit FakeEventPump(FakeClock& clock) : clock_(clock) {}
+
+    /// Something that happens when the program next lets events in.
+    void queue(std::function<void()> event) { after(0, std::move(event)); }
+    /// Something that happens when this much time has passed.
+    void after(int milliseconds, std::function<void()> event);
+
+    void pump() override;
+    void pumpFor(int milliseconds) override;
+    void waitForEvent(int milliseconds) override;
+    void end() override { ended_ = true; }
+    bool ended() const override { return ended_; }
+
+    void throwIfEnded() const;
+    int pumps = 0; ///< calls of all kinds so far; a program that waits for ever is stopped
+
+private:
+    void countCall();
+    void serveUntil(qint64 time, bool onlyOne);
+
+    FakeClock& clock_;
+    std::multimap<qint64, std::function<void()>> events_; ///< by the time at which they are due
+    bool ended_ = false;
+};
+
+/// What a started program prints, and when: milliseconds since its start.
+struct ChildScript {
+    struct Output {
+        QByteArray bytes;
+        int atMs = 0;
+    };
+    std::vector<Output> output{};
+    int endsAtMs = 30;
+    bool heedsInterrupt = true;
+    QByteArray farewell{"Interrupted.\r\n"}; ///< printed on an interrupt that it heeds
+    int farewellTakesMs = 0;
+};
+
+/// A started program, as the test sees it; lives on when the program under test has let go of it.
+struct FakeChild {
+    QString commandLine;
+    qint64 processId = 0;
+    ChildScript script;
+    qint64 startedAt = 0;
+    int interrupts = 0;
+    QByteArray written{};
+
+    bool runningAt(qint64 now) const { return now - startedAt < script.endsAtMs; }
+};
+
+class FakeProcessLauncher : public ProcessLauncher {
+public:
+    explicit FakeProcessLauncher(FakeClock& clock) : clock_(clock) {}
+
+    /// What a program does is decided by its command line; nothing: it cannot be started.
+    std::function<std::optional<ChildScript>(const QString& commandLine)> script =
+        [this](const QString& line) { return answerTo(line); };
+    /// The answer to every command line that holds `part`; the latest that fits counts. All other programs
+    /// print nothing and end.
+    void on(const QString& part, const ChildScript& answer) { answers_.push_front({part, answer}); }
+    void on(const QString& part, const QByteArray& output) { on(part, ChildScript{.output = {{output}}}); }
+
+    std::vector<std::shared_ptr<FakeChild>> children;
+    QStringList commandLines() const;
+    QString lastCommandLine() const { return children.empty() ? QString() : children.back()->commandLine; }
+
+    std::unique_ptr<ChildProcess> start(const QString& commandLine) override;
+
+private:
+    ChildScript answerTo(const QString& commandLine) const;
+
+    FakeClock& clock_;
+    std::deque<std::pair<QString, ChildScript>> answers_;
+};
+
+class FakeProcesses : public Processes {
+public:
+    FakeProcesses(const FakeProcessLauncher& launcher, const FakeClock& clock)
+        : launcher_(launcher), clock_(clock) {}
+
+    bool canBeClosed = true;
+    std::vector<qint64> closeRequests;
+
+    bool requestClose(qint64 processId) override;
+    bool exists(qint64 processId) const override;
+
+private:
+    const FakeProcessLauncher& launcher_;
+    const FakeClock& clock_;
+};
+
+class FakeDialogs : public Dialogs {
+public:
+    struct Message {
+        QString text;
+        MessageIcon icon;
+        QString title;
+    };
+
+    explicit FakeDialogs(const FakeEventPump& pump) : pump_(pump) {}
+
+    std::vector<Message> messages;
+    std::vector<OpenFileRequest> openFileRequests;
+    std::deque<std::optional<QString>> openFileAnswers; ///< used up one by one; then the user cancels
+    std::function<void()> whileOpen;                    ///< what happens while a box is open
+
+    QStringList messageTexts() const;
+
+    void message(const QString& text, MessageIcon icon, const QString& title) override;
+    std::optional<QString> openFile(const OpenFileRequest& request) override;
+
+private:
+    void waitForUser() const;
+
+    const FakeEventPump& pump_;
+};
+
+class FakeTray : public Tray {
+public:
+    struct Balloon {
+        QString title;
+        QString text;
+    };
+
+    bool present = true; ///< whether the desktop has a tray
+    bool shown = false;
+    QStringList tips; ///< all that were set, the one of `add` included
+    std::vector<Balloon> balloons;
+
+    QString tip() const { return tips.isEmpty() ? QString() : tips.last(); }
+
+    bool available() const override { return present; }
+    void add(const QString& tip) override;
+    void setTip(const QString& tip) override { tips.append(tip); }
+    void showBalloon(const QString& title, const QString& text) override {
+        balloons.push_back({title, text});
+    }
+    void remove() override { shown = false; }
+};
+
+class FakePower : public Power {
+public:
+    int shutDowns = 0;
+    int standBys = 0;
+
+    void shutDown() override { ++shutDowns; }
+    void standBy() override { ++standBys; }
+};
+
+class FakePing : public Ping {
+public:
+    struct Echo {
+        quint32 address;
+        QByteArray payload;
+        int timeoutMs;
+    };
+
+    static constexpr int kTimedOut = 11010;
+    Reply reply{.status = 0, .roundTripMs = 1}; ///< of every address that `replies` does not name
+    std::map<quint32, Reply> replies;
+    std::vector<Echo> echoes;
+
+    Reply sendEcho(quint32 address, const QByteArray& payload, int timeoutMs) override;
+};
+
+class FakeSystemFolders : public SystemFolders {
+public:
+    QString folder; ///< at first a temporary folder that goes with the test
+
+    FakeSystemFolders() : folder(temporary_.path()) {}
+    QString programFolder() const override { return folder; }
+    QString commandInterpreter() const override { return QStringLiteral("C:\\WINDOWS\\system32\\cmd.exe"); }
+
+private:
+    const QTemporaryDir temporary_;
+};
+
+class FakeWindowManager : public WindowManager {
+public:
+    Size screen{.width = 1280 * 15, .height = 1024 * 15};
+
+    Size screenSize() const override { return screen; }
+};
+
+/// One of each; hands out the bundle that the program takes.
+struct FakePorts {
+    FakeClock clock;
+    FakeEventPump pump{clock};
+    FakeProcessLauncher launcher{clock};
+    FakeProcesses processes{launcher, clock};
+    FakeDialogs dialogs{pump};
+    FakeTray tray;
+    FakePower power;
+    FakePing ping;
+    FakeSystemFolders folders;
+    FakeWindowManager windows;
+
+    Ports ports() { return {pump, clock, launcher, processes, dialogs, tray, power, ping, folders, windows}; }
+};
+
+} // namespace tarnwell::test
