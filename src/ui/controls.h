@@ -89,7 +89,7 @@ public:
     /// A drawing in a picture: a text in its centre and a box that is filled from the left edge up to `filledTo`, in
     /// units of the picture's scale.
     struct Drawing {
-        QString text;
+        QString text{};
         double filledTo = 0;
         bool operator==(const Drawing&) const = default;
     };

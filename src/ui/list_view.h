@@ -8,9 +8,9 @@ namespace tarnwell::ui {
 class ListView : public Control {
 public:
     struct Row {
-        QString text;         ///< the first column, the row's label
-        QStringList subItems; ///< the columns behind it
-        QString tag;          ///< a text that the user does not see
+        QString text{};         ///< the first column, the row's label
+        QStringList subItems{}; ///< the columns behind it
+        QString tag{};          ///< a text that the user does not see
         bool selected = false;
     };
 

@@ -1,10 +1,15 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <ostream>
 
-/// Lets a failed comparison show the text instead of its bytes.
+/// Let a failed comparison show texts instead of their bytes.
 inline void PrintTo(const QString& text, std::ostream* stream) {
     *stream << '"' << text.toStdString() << '"';
+}
+
+inline void PrintTo(const QStringList& texts, std::ostream* stream) {
+    *stream << '{' << texts.join(" | ").toStdString() << '}';
 }

@@ -1,0 +1,81 @@
+#include "support/gtest_qt.h"
+#include "ui/frm_main.h"
+#include "ui/frm_status.h"
+
+#include <gtest/gtest.h>
+
+using namespace tarnwell::ui;
+
+namespace {
+
+QStringList namesWhere(const Form& form, const std::function<bool(const Control&)>& holds) {
+    QStringList names;
+    for (const Control* control : form.controls()) {
+        if (holds(*control))
+            names += control->name;
+    }
+    return names;
+}
+
+QStringList captions(const PopupMenu& menu) {
+    QStringList all;
+    for (const MenuEntry* entry : menu.entries())
+        all += entry->caption;
+    return all;
+}
+
+} // namespace
+
+TEST(FrmMain, StartsWithTheButtonsThatNeedADeviceOff) {
+    const FrmMain frmMain;
+    EXPECT_EQ(namesWhere(frmMain, [](const Control& control) { return !control.enabled; }).join(' '),
+              "cmbOptical cmdCompat cmdInstall cmdAddGame cmdMakeISO cmdDelete cmdSaveList cmdBackupPC "
+              "cmdBackupPS2 cmdBackupHDD cmdStart cmdRemove cmdClear tmrCompat");
+}
+
+TEST(FrmMain, StartsOnTheInstallPageInNetworkMode) {
+    const FrmMain frmMain;
+    EXPECT_EQ(namesWhere(frmMain, [](const Control& control) { return !control.visible; }).join(' '),
+              "cmbHD lblDVD9 fmBrowse fmJob");
+    EXPECT_TRUE(frmMain.optLAN.value);
+    EXPECT_TRUE(frmMain.optInstall.value);
+    EXPECT_TRUE(frmMain.optISO.value);
+    EXPECT_EQ(frmMain.cmbType.text(), "DVD-ROM");
+    EXPECT_EQ(frmMain.cmdAttach.width, 1215);
+}
+
+TEST(FrmMain, CarriesItsCaption) {
+    EXPECT_EQ(FrmMain().caption.get(), " Tarnwell GUI v1.5 by mirelane");
+}
+
+TEST(FrmMain, HasEveryMenuWithItsEntries) {
+    const FrmMain frmMain;
+    EXPECT_EQ(captions(frmMain.mnuCompat).join('|'),
+              "1: Slow HDD Access|2: No DVD9 Support|3: Kill HD Loader|4: Date/time fix 2|5: Date/time fix 3|"
+              "6: No Network Support|7: Disable CzC Patch|8: Soul Calibur 2 / Suikoden V|-|Done");
+    EXPECT_EQ(captions(frmMain.mnuBackup), QStringList({"", "", "", "", ""}));
+    EXPECT_EQ(captions(frmMain.mnuDelete), QStringList({"Delete Now", "Add Delete to Job Queue"}));
+    EXPECT_EQ(captions(frmMain.mnuSounds),
+              QStringList({"Sound when task completes: [none]", "Sound when all tasks complete: [none]"}));
+    EXPECT_EQ(captions(frmMain.mnuSystray), QStringList({"Settings && Tools", "-", "Minimize", "-", "Exit"}));
+}
+
+TEST(FrmMain, GivesEveryControlThatAUserWorksWithSomethingToBeCalled) {
+    const FrmMain frmMain;
+    const auto nameless = namesWhere(frmMain, [](const Control& control) {
+        const bool needsName = control.kind == Kind::TextBox || control.kind == Kind::ComboBox ||
+                               control.kind == Kind::ListView || control.kind == Kind::PictureBox;
+        return needsName && control.accessibleName.isEmpty();
+    });
+    EXPECT_EQ(nameless, QStringList());
+}
+
+TEST(FrmStatus, StartsWithNothingKnown) {
+    const FrmStatus frmStatus;
+    EXPECT_EQ(frmStatus.caption.get(), " Status");
+    EXPECT_EQ(frmStatus.lblSpeed.caption.get(), "Speed: n/a");
+    EXPECT_EQ(frmStatus.lblRemaining.caption.get(), "Time Remaining: n/a");
+    EXPECT_EQ(frmStatus.lblFinish.caption.get(), "  When all jobs are complete:");
+    EXPECT_EQ(frmStatus.cmdStop.caption.get(), "Cancel");
+    EXPECT_EQ(frmStatus.picCurrent.tag.get(), "");
+}

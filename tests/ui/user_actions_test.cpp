@@ -1,0 +1,116 @@
+#include "ui/user_actions.h"
+#include "support/gtest_qt.h"
+
+#include <gtest/gtest.h>
+
+using namespace tarnwell::ui;
+
+namespace {
+
+struct SampleForm : Form {
+    SampleForm() : Form("frmSample", {}) {}
+    Button cmdSample{*this, "cmdSample"};
+    CheckBox chkSample{*this, "chkSample"};
+    TextBox txtSample{*this, "txtSample"};
+    TextBox txtFixed{*this, "txtFixed", {.text = "fixed", .readOnly = true}};
+    ComboBox cmbSample{*this, "cmbSample", {.items = {"a", "b"}}};
+    ListView lstSample{*this, "lstSample", {.editableLabels = true}};
+    Timer tmrSample{*this, "tmrSample"};
+    PopupMenu mnuTop{*this, "mnuTop", "top"};
+    MenuEntry mnuEntry{mnuTop, "mnuEntry", "Entry"};
+    MenuEntry mnuBar{mnuTop, "mnuBar", "-"};
+};
+
+struct UserActions : testing::Test {
+    UserActions() { form.show(); }
+    SampleForm form;
+    int calls = 0;
+    const std::function<void()> count = [this] { ++calls; };
+};
+
+} // namespace
+
+TEST_F(UserActions, ClickReachesOnlyWhatIsEnabled) {
+    form.cmdSample.Click = count;
+    EXPECT_TRUE(click(form.cmdSample));
+    form.cmdSample.enabled = false;
+    EXPECT_FALSE(click(form.cmdSample));
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(UserActions, ClickTurnsACheckBoxOver) {
+    click(form.chkSample);
+    EXPECT_EQ(form.chkSample.value, 1);
+    click(form.chkSample);
+    EXPECT_EQ(form.chkSample.value, 0);
+}
+
+TEST_F(UserActions, TypingIntoAReadOnlyBoxDoesNothing) {
+    EXPECT_TRUE(type(form.txtSample, "text"));
+    EXPECT_FALSE(type(form.txtFixed, "text"));
+    EXPECT_EQ(form.txtSample.text.get(), "text");
+    EXPECT_EQ(form.txtFixed.text.get(), "fixed");
+}
+
+TEST_F(UserActions, AHandlerCanSwallowAKey) {
+    form.txtSample.KeyPress = [](int& key) { key = key == 13 ? 0 : key; };
+    EXPECT_FALSE(pressKey(form.txtSample, 13));
+    EXPECT_TRUE(pressKey(form.txtSample, 'a'));
+}
+
+TEST_F(UserActions, AMenuOfAHiddenWindowStillWorks) {
+    form.hide();
+    form.mnuEntry.Click = count;
+    EXPECT_TRUE(click(form.mnuEntry));
+    EXPECT_FALSE(click(form.mnuBar));
+    form.mnuEntry.enabled = false;
+    EXPECT_FALSE(click(form.mnuEntry));
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(UserActions, AnIndexThatTheListLacksCannotBeChosen) {
+    EXPECT_TRUE(choose(form.cmbSample, 1));
+    EXPECT_FALSE(choose(form.cmbSample, 2));
+    EXPECT_EQ(form.cmbSample.text(), "b");
+}
+
+TEST_F(UserActions, ARefusedLabelEditKeepsTheOldLabel) {
+    form.lstSample.append({.text = "old"});
+    EXPECT_TRUE(editLabel(form.lstSample, 0, "new"));
+    EXPECT_EQ(form.lstSample.row(0).text, "new");
+    form.lstSample.AfterLabelEdit = [](bool& cancel, int, const QString&) { cancel = true; };
+    EXPECT_FALSE(editLabel(form.lstSample, 0, "newer"));
+    EXPECT_EQ(form.lstSample.row(0).text, "new");
+}
+
+TEST_F(UserActions, ALabelEditWhoseHandlerEmptiesTheListIsHarmless) {
+    form.lstSample.append({.text = "old"});
+    form.lstSample.AfterLabelEdit = [&](bool&, int, const QString&) { form.lstSample.clear(); };
+    EXPECT_TRUE(editLabel(form.lstSample, 0, "new"));
+    EXPECT_EQ(form.lstSample.count(), 0);
+}
+
+TEST_F(UserActions, ATimerTicksOnlyWhenItIsOnAndHasAnInterval) {
+    form.tmrSample.Tick = count;
+    tick(form.tmrSample);
+    form.tmrSample.interval = 10;
+    tick(form.tmrSample);
+    form.tmrSample.enabled = false;
+    tick(form.tmrSample);
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(UserActions, HandlersRunThroughTheDispatcherOfTheWindow) {
+    int dispatched = 0;
+    form.dispatcher = [&](const std::function<void()>& handler) {
+        ++dispatched;
+        handler();
+    };
+    click(form.cmdSample);
+    click(form.chkSample);
+    choose(form.cmbSample, 0);
+    type(form.txtSample, "x");
+    close(form);
+    EXPECT_EQ(dispatched, 5);
+    EXPECT_FALSE(form.loaded());
+}
