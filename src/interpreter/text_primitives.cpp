@@ -145,6 +145,10 @@ qsizetype InStrRev(const QString& text, const QString& what, qsizetype from) {
     return text.lastIndexOf(what, from - 1) + 1;
 }
 
+qsizetype InStrRev(const QString& text, const QString& what) {
+    return text.lastIndexOf(what) + 1;
+}
+
 QString Mid(const QString& text, qsizetype start, qsizetype length) {
     if (start < 1 || length < 0)
         throw Fault(QLatin1String(kUnreadableLine));
@@ -173,7 +177,7 @@ QString Trim(const QString& text) {
     return LTrim(RTrim(text));
 }
 
-const QString& ElementAt(const QStringList& list, qsizetype index) {
+QString ElementAt(const QStringList& list, qsizetype index) {
     if (index < 0 || index >= list.size())
         throw Fault(QLatin1String(kUnreadableLine));
     return list[index];

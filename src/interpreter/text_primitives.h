@@ -27,6 +27,7 @@ QString DecimalText(double value);
 qsizetype InStr(const QString& text, const QString& what, qsizetype from = 1);
 /// Where `what` last begins at or before `from`; 0 if nowhere. Searching from 0 is a Fault.
 qsizetype InStrRev(const QString& text, const QString& what, qsizetype from);
+qsizetype InStrRev(const QString& text, const QString& what);
 /// A length beyond the end takes what is there. A start before 1 or a negative length is a Fault.
 QString Mid(const QString& text, qsizetype start, qsizetype length);
 QString Mid(const QString& text, qsizetype start);
@@ -36,6 +37,6 @@ QString RTrim(const QString& text);
 QString Trim(const QString& text);
 
 /// The element at `index`, counted from 0. A list that is too short is a Fault.
-const QString& ElementAt(const QStringList& list, qsizetype index);
+QString ElementAt(const QStringList& list, qsizetype index);
 
 } // namespace tarnwell

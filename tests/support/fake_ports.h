@@ -189,15 +189,13 @@ public:
 };
 
 class FakeSystemFolders : public SystemFolders {
-public:
-    QString folder; ///< at first a temporary folder that goes with the test
+    const QTemporaryDir temporary_;
 
-    FakeSystemFolders() : folder(temporary_.path()) {}
+public:
+    QString folder = temporary_.path(); ///< at first a temporary folder that goes with the test
+
     QString programFolder() const override { return folder; }
     QString commandInterpreter() const override { return QStringLiteral("C:\\WINDOWS\\system32\\cmd.exe"); }
-
-private:
-    const QTemporaryDir temporary_;
 };
 
 class FakeWindowManager : public WindowManager {

@@ -1,0 +1,86 @@
+#include "interpreter/game_list_stage.h"
+
+#include "app/shared.h"
+#include "interpreter/free_space_stage.h"
+#include "interpreter/text_primitives.h"
+
+namespace tarnwell {
+
+namespace {
+
+constexpr double kKilobytesPerGigabyte = 1048576;
+
+const char kConsoleNotFound[] = "The PS2 console could not be found at the IP address entered. Make sure "
+                                "that the console has tarnd_svr.elf running "
+                                "and the IP address is configured properly in IPCONFIG.DAT.";
+const char kNotAPs2Disk[] = "This drive is not a PlayStation 2 HDD.";
+
+bool isGameLine(const QString& line) {
+    return line.startsWith(QLatin1String("CD")) || line.startsWith(QLatin1String("DVD"));
+}
+
+void enableGameButtons(ui::FrmMain& form) {
+    for (ui::Button* button : {&form.cmdBackupPC, &form.cmdBackupPS2, &form.cmdDelete, &form.cmdSaveList})
+        button->enabled = true;
+    // A copy to a local disk needs one that is not the source: on a console every disk will do.
+    const int disksNeeded = form.optLAN.value ? 1 : 2;
+    if (form.cmbHD.listCount() >= disksNeeded)
+        form.cmdBackupHDD.enabled = true;
+}
+
+void AddGameRow(ui::ListView& list, const QString& name, const QString& startup, const QString& size,
+                const QString& type, const QString& flags) {
+    list.append({name, {startup, size, type, flags}, {}});
+}
+
+/// A line of the tool's table: columns at fixed places, the name up to the end.
+void readGame(ui::ListView& list, const QString& line) {
+    const QString type = Trim(Mid(line, 1, 3));
+    const QString size = Trim(Mid(line, 5, 7));
+    const QString flags = Trim(Mid(line, 15, 15));
+    const QString startup = Trim(Mid(line, 30, 11));
+    const QString name = Trim(Mid(line, 44));
+    AddGameRow(list, name, startup, FormatNumber(Val(size) / kKilobytesPerGigabyte, "0.00") + "GB", type,
+               flags);
+}
+
+void readTable(Shared& shared, const QStringList& lines) {
+    ui::FrmMain& form = shared.frmMain;
+    for (qsizetype i = 1; i < lines.size(); ++i) {
+        if (isGameLine(lines[i])) {
+            enableGameButtons(form);
+            readGame(form.lstHD, lines[i]);
+        }
+        if (IsSummaryLine(lines[i]))
+            ReadFreeSpace(shared, lines[i]);
+    }
+    ShowGameCount(shared, form.lstHD.count());
+}
+
+Then refuse(Shared& shared, const char* why, MessageIcon icon) {
+    shared.message(why, icon);
+    shared.blnReadTOC = false;
+    return Then::Stop;
+}
+
+} // namespace
+
+Then ReadGameList(Shared& shared, const QString& text) {
+    if (text.contains(QLatin1String("A connection attempt failed")))
+        return refuse(shared, kConsoleNotFound, MessageIcon::Stop);
+    if (text.contains(QLatin1String("not a PlayStation 2 HDD.")))
+        return refuse(shared, kNotAPs2Disk, MessageIcon::Exclamation);
+
+    ClearFreeSpace(shared);
+    shared.frmMain.lstHD.clear();
+    if (text.startsWith(QLatin1String("type")))
+        readTable(shared, text.split(QLatin1String("\r\n")));
+    shared.blnReadTOC = false;
+    return Then::NextStage;
+}
+
+void ShowGameCount(Shared& shared, int games) {
+    shared.frmMain.fmBrowse.caption = QStringLiteral("Browse, Backup, and Delete - %1 Games").arg(games);
+}
+
+} // namespace tarnwell

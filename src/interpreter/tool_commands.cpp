@@ -1,0 +1,83 @@
+#include "interpreter/tool_commands.h"
+
+#include "interpreter/text_primitives.h"
+
+namespace tarnwell {
+
+namespace {
+
+constexpr qsizetype kShortDeviceLength = 5;
+constexpr qsizetype kDriveNameLength = 4; ///< cd0:
+
+} // namespace
+
+QString QuoteArg(const QString& value) {
+    return value.contains(' ') ? '"' + value + '"' : value;
+}
+
+QString LocalDeviceLong(const QString& entry) {
+    return entry.left(InStr(entry, ":"));
+}
+
+QString LocalDeviceShort(const QString& entry) {
+    return entry.left(kShortDeviceLength);
+}
+
+QString ActiveDeviceLong(const ui::FrmMain& form) {
+    return form.optLocal.value ? LocalDeviceLong(form.cmbHD.text()) : form.txtIP.text;
+}
+
+QString ActiveDeviceShort(const ui::FrmMain& form) {
+    return form.optLocal.value ? LocalDeviceShort(form.cmbHD.text()) : form.txtIP.text;
+}
+
+QString ResolveOpticalDrive(const ui::FrmMain& form, const QString& entry) {
+    const qint16 number = RoundToInt16(Val(Mid(entry, 3, 1)));
+    const QString& map = form.cmbOptical.tag;
+    const QString drive = ElementAt(map.isEmpty() ? QStringList() : map.split(','), number);
+    return drive == QLatin1String("0") ? entry.left(kDriveNameLength) : drive;
+}
+
+QString FlagsWord(const ui::FrmMain& form) {
+    QString word;
+    for (std::size_t i = 0; i < form.mnuFlags.size(); ++i) {
+        if (form.mnuFlags[i].checked)
+            word += '+' + QString::number(i + 1);
+    }
+    return word;
+}
+
+QString QueryCommand() {
+    return "query";
+}
+
+QString GameListCommand(const QString& device) {
+    return "tarn_toc " + device;
+}
+
+QString DriveInfoCommand(const QString& drive) {
+    return "cdvd_info2 " + drive;
+}
+
+QString ImageInfoCommand(const QString& path) {
+    return "cdvd_info2 \"" + path + '"';
+}
+
+QString InstallCommand(const Installation& game) {
+    const QString command = game.type == QLatin1String("DVD-ROM") ? "inject_dvd" : "inject_cd";
+    // Two quotes hold the place of a missing startup file, so that the flags stay in theirs.
+    const bool placeholder = game.startup.isEmpty() && !game.flags.isEmpty();
+    const QStringList words{command,
+                            QuoteArg(game.device),
+                            QuoteArg(game.name),
+                            QuoteArg(game.source),
+                            placeholder ? QStringLiteral("\"\"") : game.startup,
+                            game.flags};
+    return RTrim(words.join(' '));
+}
+
+QString PowerOffCommand(const QString& address) {
+    return "poweroff " + address;
+}
+
+} // namespace tarnwell

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "ui/frm_main.h"
+
+/// The tool's command language: every command text that the program sends, without the tool's path, and the
+/// arguments that go into it.
+namespace tarnwell {
+
+/// In double quotes if it holds a blank. Nothing inside is escaped: a name with a quote of its own breaks the
+/// command.
+QString QuoteArg(const QString& value);
+
+/// The start of a disk's entry. The tool knows both forms, and each command keeps to its own: the long one
+/// goes up to the first colon, the short one is five characters, so that hdd10: loses its colon.
+QString LocalDeviceLong(const QString& entry);
+QString LocalDeviceShort(const QString& entry);
+
+/// The device that is in use: the address of the console as typed, or the chosen local disk.
+QString ActiveDeviceLong(const ui::FrmMain& form);
+QString ActiveDeviceShort(const ui::FrmMain& form);
+
+/// The drive argument for an entry of the list of optical drives: the system's drive if it is known, else the
+/// tool's own name for it. An entry that the last query does not know is a Fault.
+QString ResolveOpticalDrive(const ui::FrmMain& form, const QString& entry);
+
+/// The ticked compatibility flags as one word, such as +1+3+8.
+QString FlagsWord(const ui::FrmMain& form);
+
+/// A game to install: `type` as the list of types shows it, `source` an image or a drive.
+struct Installation {
+    QString type, device, name, source, startup, flags;
+};
+
+QString QueryCommand();
+QString GameListCommand(const QString& device);
+QString DriveInfoCommand(const QString& drive);
+QString ImageInfoCommand(const QString& path);
+QString InstallCommand(const Installation& game);
+QString PowerOffCommand(const QString& address);
+
+} // namespace tarnwell

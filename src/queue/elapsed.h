@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QString>
+
+namespace tarnwell {
+
+class Clock;
+
+/// The milliseconds since some start tick as hours, minutes and seconds; hours go beyond 99 as needed. A
+/// start tick of 0 means "never started" and shows as no time at all.
+QString FormatElapsed(qint32 milliseconds, const Clock& clock);
+
+} // namespace tarnwell

@@ -1,0 +1,142 @@
+#include "interpreter_fixture.h"
+
+namespace tarnwell {
+namespace {
+
+const char kTwoDisks[] = "\thdd1:  114473 MB, formatted Playstation 2 HDD\r\n"
+                         "\thdd2:   38166 MB, unknown format\r\n"
+                         "\thdd3:  238475 MB, formatted Playstation 2 HDD\r\n";
+
+class DeviceStage : public InterpreterTest {
+protected:
+    void queryDisks(const QString& answer) {
+        shared.blnQueryHD = true;
+        read(answer);
+    }
+    void queryDrives(const QString& answer) {
+        form.cmbOptical.clear();
+        shared.blnQueryOptical = true;
+        read(answer);
+    }
+};
+
+TEST_F(DeviceStage, ListsFormattedDisksWithTheFirstChosen) {
+    queryDisks(kTwoDisks);
+    EXPECT_EQ(form.cmbHD.items(), (QStringList{"hdd1:  [111.8 GB]", "hdd3:  [232.9 GB]"}));
+    EXPECT_EQ(form.cmbHD.listIndex, 0);
+    EXPECT_FALSE(shared.blnQueryHD);
+}
+
+TEST_F(DeviceStage, OffersTheDisksAsCopyTargetsButTheOneInUse) {
+    form.optLocal.value = true;
+    queryDisks(kTwoDisks);
+    EXPECT_EQ(form.mnuHDD[0].caption.get(), "hdd1:  [111.8 GB]");
+    EXPECT_EQ(form.mnuHDD[1].caption.get(), "hdd3:  [232.9 GB]");
+    EXPECT_TRUE(form.mnuHDD[0].visible);
+    EXPECT_TRUE(form.mnuHDD[1].visible);
+    EXPECT_FALSE(form.mnuHDD[0].enabled);
+    EXPECT_TRUE(form.mnuHDD[1].enabled);
+    for (std::size_t i = 2; i < form.mnuHDD.size(); ++i)
+        EXPECT_FALSE(form.mnuHDD[i].visible) << i;
+}
+
+TEST_F(DeviceStage, OffersEveryDiskAsCopyTargetOfAConsole) {
+    queryDisks(kTwoDisks);
+    EXPECT_TRUE(form.mnuHDD[0].enabled);
+}
+
+TEST_F(DeviceStage, ListsASixthDiskWithoutACopyTarget) {
+    QString answer;
+    for (int i = 1; i <= 6; ++i)
+        answer += QStringLiteral("\thdd%1:  1024 MB, formatted Playstation 2 HDD\r\n").arg(i);
+    queryDisks(answer);
+    EXPECT_EQ(form.cmbHD.listCount(), 6);
+    EXPECT_EQ(form.mnuHDD[4].caption.get(), "hdd5:  [1.0 GB]");
+}
+
+TEST_F(DeviceStage, LeavesTheCopyTargetsVisibleWhenThereIsNoDisk) {
+    queryDisks("\thdd1:  1024 MB, unknown format\r\n");
+    EXPECT_EQ(form.cmbHD.listCount(), 0);
+    EXPECT_TRUE(form.mnuHDD[0].visible);
+}
+
+TEST_F(DeviceStage, BoundsTheSizeByTheLastMb) {
+    queryDisks("\thdd1:  2048MB of 4096 MB, formatted Playstation 2 HDD");
+    EXPECT_EQ(form.cmbHD.text(), "hdd1:  [2.0 GB]");
+}
+
+TEST_F(DeviceStage, TakesTheCharacterInFrontOfTheUnitForABlank) {
+    queryDisks("\thdd1:  20480MB, formatted Playstation 2 HDD");
+    EXPECT_EQ(form.cmbHD.text(), "hdd1:  [2.0 GB]");
+}
+
+TEST_F(DeviceStage, ShowsADiskWithoutANumberAsEmpty) {
+    queryDisks("\thdd1:   MB, formatted Playstation 2 HDD\r\n\thdd2: formatted Playstation 2 HDD");
+    EXPECT_EQ(form.cmbHD.items(), (QStringList{"hdd1:  [.0 GB]", "hdd2:  [.0 GB]"}));
+}
+
+TEST_F(DeviceStage, KeepsTheColonOfATwoDigitDisk) {
+    queryDisks("\thdd10:  1024 MB, formatted Playstation 2 HDD");
+    EXPECT_EQ(form.cmbHD.text(), "hdd10:  [1.0 GB]");
+}
+
+TEST_F(DeviceStage, SurvivesALineWithoutANameOrOfGreatLength) {
+    queryDisks("formatted Playstation 2 HDD\r\n\thdd1:  1024 MB" + QString(300, 'x') +
+               "formatted Playstation 2 HDD\r\n");
+    EXPECT_EQ(form.cmbHD.items(), (QStringList{"  [.0 GB]", "hdd1:  [1.0 GB]"}));
+}
+
+TEST_F(DeviceStage, EndsTheQueryOnAnEmptyAnswer) {
+    queryDisks("");
+    EXPECT_FALSE(shared.blnQueryHD);
+    EXPECT_EQ(form.cmbHD.listCount(), 0);
+}
+
+TEST_F(DeviceStage, ListsDrivesWithADisc) {
+    queryDrives("\tcd0:  4482 MB\r\n\tcd1:\r\n\tcd2:  700 MB\r\n");
+    EXPECT_EQ(form.cmbOptical.items(), (QStringList{"cd0:  [4.38GB]", "cd2:  [.68GB]"}));
+    EXPECT_EQ(form.cmbOptical.listIndex, -1);
+    EXPECT_FALSE(shared.blnQueryOptical);
+    EXPECT_TRUE(messages().isEmpty());
+}
+
+TEST_F(DeviceStage, MapsTheDrivesToTheSystemsLetters) {
+    form.cmbOptical.tag = "old,";
+    queryDrives("\tcd0:  4482 MB\r\n\tcd1:\r\nvia SPTI:\r\n\tD:  4482MB\r\n\tE:\r\nend\r\n");
+    EXPECT_EQ(form.cmbOptical.tag.get(), "D:,0,");
+    EXPECT_EQ(form.cmbOptical.listCount(), 1);
+}
+
+TEST_F(DeviceStage, KeepsTheMapWhenNoneIsPrinted) {
+    form.cmbOptical.tag = "D:,";
+    queryDrives("\tcd0:  4482 MB\r\n");
+    EXPECT_EQ(form.cmbOptical.tag.get(), "D:,");
+}
+
+TEST_F(DeviceStage, GoesBackToImagesWhenNoDriveHoldsADisc) {
+    form.optOptical.value = true;
+    queryDrives("\tcd0:\r\n");
+    EXPECT_TRUE(form.optISO.value);
+    EXPECT_EQ(messages(), QStringList{"There were no game disks found in any of your optical drives."});
+    EXPECT_EQ(outside.dialogs.messages.front().icon, MessageIcon::Exclamation);
+    EXPECT_FALSE(shared.blnQueryOptical);
+}
+
+TEST_F(DeviceStage, SaysNothingOfMissingDiscsWhileImagesAreTheSource) {
+    queryDrives("");
+    EXPECT_TRUE(messages().isEmpty());
+    EXPECT_FALSE(shared.blnQueryOptical);
+}
+
+TEST_F(DeviceStage, EmptiesTheCopyTargetsOnADriveQuery) {
+    queryDisks(kTwoDisks);
+    queryDrives("\tcd0:  4482 MB\r\n");
+    EXPECT_EQ(form.mnuHDD[0].caption.get(), "");
+    EXPECT_TRUE(form.mnuHDD[0].visible);
+    EXPECT_TRUE(form.mnuHDD[1].visible);
+    EXPECT_FALSE(form.mnuHDD[2].visible);
+    EXPECT_EQ(form.cmbHD.listCount(), 2);
+}
+
+} // namespace
+} // namespace tarnwell
