@@ -1,0 +1,32 @@
+#pragma once
+
+#include "platform/qt/qt_clock.h"
+#include "platform/qt/qt_dialogs.h"
+#include "platform/qt/qt_event_pump.h"
+#include "platform/qt/qt_process_launcher.h"
+#include "platform/qt/qt_system_folders.h"
+#include "platform/qt/qt_tray.h"
+#include "platform/qt/qt_window_manager.h"
+
+namespace tarnwell {
+
+/// Every real port, for the composition root. To be made after the QApplication and to be kept until the
+/// program has ended.
+struct DesktopPorts {
+    DesktopPorts(const QIcon& icon, std::function<double()> pixelsPerTwip);
+
+    Ports ports();
+
+    QtEventPump pump;
+    QtClock clock;
+    QtProcessLauncher launcher;
+    QtDialogs dialogs;
+    QtTray tray;
+    QtSystemFolders folders;
+    QtWindowManager windows;
+    std::unique_ptr<Processes> processes;
+    std::unique_ptr<Power> power;
+    std::unique_ptr<Ping> ping;
+};
+
+} // namespace tarnwell

@@ -1,0 +1,55 @@
+#include "platform/qt/qt_dialogs.h"
+
+#include "platform/qt/file_filter.h"
+#include "platform/qt/message_text.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QMessageBox>
+
+namespace tarnwell {
+
+namespace {
+
+QWidget* windowOfTheUser() {
+    QWidget* const window = QApplication::activeWindow();
+    return window != nullptr && window->isVisible() ? window : nullptr;
+}
+
+QMessageBox::Icon toolkitIcon(MessageIcon icon) {
+    return icon == MessageIcon::Stop ? QMessageBox::Critical : QMessageBox::Warning;
+}
+
+} // namespace
+
+void QtDialogs::message(const QString& text, MessageIcon icon, const QString& title) {
+    const MessageText fitted = fitMessageText(text);
+    QMessageBox box(toolkitIcon(icon), title, fitted.shown, QMessageBox::Ok, windowOfTheUser());
+    box.setTextFormat(Qt::PlainText);
+    box.setDetailedText(fitted.whole);
+    waitFor(box);
+}
+
+std::optional<QString> QtDialogs::openFile(const OpenFileRequest& request) {
+    QFileDialog dialog(windowOfTheUser(), request.title, request.folder);
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setFileMode(request.mustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite); // a file that exists is what an open dialog is for
+    if (const QStringList filters = toolkitFilters(request.filter); !filters.isEmpty()) {
+        dialog.setNameFilters(filters);
+    }
+    if (waitFor(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return std::nullopt;
+    }
+    return QDir::toNativeSeparators(dialog.selectedFiles().constFirst());
+}
+
+int QtDialogs::waitFor(QDialog& dialog) const {
+    pump_.throwIfEnded();
+    const int result = dialog.exec();
+    pump_.throwIfEnded();
+    return result;
+}
+
+} // namespace tarnwell

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/qt/qt_event_pump.h"
+
+namespace tarnwell {
+
+/// Boxes of the desktop, in front of the window that the user is at.
+class QtDialogs : public Dialogs {
+public:
+    explicit QtDialogs(const QtEventPump& pump) : pump_(pump) {}
+
+    void message(const QString& text, MessageIcon icon, const QString& title) override;
+    std::optional<QString> openFile(const OpenFileRequest& request) override;
+
+private:
+    int waitFor(class QDialog& dialog) const;
+
+    const QtEventPump& pump_;
+};
+
+} // namespace tarnwell

@@ -1,0 +1,73 @@
+#include "platform/qt/qt_event_pump.h"
+
+#include <QAbstractEventDispatcher>
+#include <QDeadlineTimer>
+#include <QGuiApplication>
+#include <QTimer>
+
+#include <algorithm>
+
+namespace tarnwell {
+
+namespace {
+
+/// A program that always has something pending (a timer of 0 ms) must not hold the caller of `pump`.
+constexpr int kLongestPumpMs = 100;
+
+/// Sleeps until an event comes, at the latest for the given time, and serves what has come. User input is
+/// never left out: it would only be kept and replayed to the wrong state, and Cancel would freeze.
+void sleepAndServe(int milliseconds) {
+    QTimer alarm;
+    // An event handler may wait as well and use up the alarm meant for this wait; so the alarm repeats.
+    alarm.setTimerType(Qt::PreciseTimer);
+    alarm.start(milliseconds);
+    QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+}
+
+} // namespace
+
+QtEventPump::QtEventPump() {
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+}
+
+void QtEventPump::pump() {
+    throwIfEnded();
+    const QDeadlineTimer limit(kLongestPumpMs);
+    auto* const queue = QAbstractEventDispatcher::instance();
+    while (queue->processEvents(QEventLoop::AllEvents) && !ended_ && !limit.hasExpired()) {
+    }
+    throwIfEnded();
+}
+
+void QtEventPump::pumpFor(int milliseconds) {
+    const QDeadlineTimer until(std::max(milliseconds, 0), Qt::PreciseTimer);
+    pump();
+    while (!ended_ && !until.hasExpired()) {
+        sleepAndServe(static_cast<int>(std::max<qint64>(until.remainingTime(), 1)));
+    }
+    throwIfEnded();
+}
+
+void QtEventPump::waitForEvent(int milliseconds) {
+    throwIfEnded();
+    sleepAndServe(std::max(milliseconds, 0));
+    throwIfEnded();
+}
+
+void QtEventPump::end() {
+    ended_ = true;
+    // Not quit(): that would ask the windows, and one that refuses to close would cancel the end.
+    QCoreApplication::exit();
+}
+
+int QtEventPump::run() {
+    return ended_ ? 0 : QCoreApplication::exec();
+}
+
+void QtEventPump::throwIfEnded() const {
+    if (ended_) {
+        throw ProgramEnded{};
+    }
+}
+
+} // namespace tarnwell

@@ -1,0 +1,70 @@
+#include "platform/qt/qt_process_launcher.h"
+
+#include "platform/native.h"
+#include "platform/qt/process_keeper.h"
+
+#include <QProcess>
+
+namespace tarnwell {
+
+namespace {
+
+/// A program on a slow network drive may take a while; one that has not come up by then is given up.
+constexpr int kStartLimitMs = 10'000;
+
+class QtChildProcess : public ChildProcess {
+public:
+    explicit QtChildProcess(std::unique_ptr<QProcess> process) : process_(std::move(process)) {}
+    ~QtChildProcess() override { keepUntilFinished(std::move(process_)); }
+
+    bool running() override {
+        // A wait of no time looks at the process and its pipes; the state alone would be as old as the last
+        // pump.
+        return process_->state() != QProcess::NotRunning && !process_->waitForFinished(0);
+    }
+
+    QByteArray read(qsizetype maximum) override {
+        if (process_->bytesAvailable() == 0) {
+            process_->waitForReadyRead(0);
+        }
+        return process_->read(maximum);
+    }
+
+    qint64 write(const QByteArray& bytes) override {
+        if (!running()) {
+            return -1;
+        }
+        const qint64 taken = process_->write(bytes);
+        process_->waitForBytesWritten(0);
+        return taken;
+    }
+
+    qint64 processId() const override { return processId_; }
+
+    void interrupt() override {
+        if (running()) {
+            native::interruptProcess(processId_);
+        }
+    }
+
+private:
+    std::unique_ptr<QProcess> process_;
+    const qint64 processId_ = process_->processId(); // QProcess forgets it when the process has gone
+};
+
+} // namespace
+
+std::unique_ptr<ChildProcess> QtProcessLauncher::start(const QString& commandLine) {
+    auto process = std::make_unique<QProcess>();
+    process->setProcessChannelMode(QProcess::MergedChannels);
+    if (!native::prepareProcess(*process, commandLine)) {
+        return nullptr;
+    }
+    process->start();
+    if (!process->waitForStarted(kStartLimitMs)) {
+        return nullptr;
+    }
+    return std::make_unique<QtChildProcess>(std::move(process));
+}
+
+} // namespace tarnwell
