@@ -13,9 +13,10 @@ const char kNoGameDisks[] = "There were no game disks found in any of your optic
 
 /// The number between the device's name and the last "MB" of its line, with one blank on either side; none
 /// counts as 0.
+/// The number may touch its unit or keep a blank from it.
 double sizeInGigabytes(const QString& line) {
     const qsizetype colon = InStr(line, ":");
-    const qsizetype length = InStrRev(line, "MB") - colon - 3;
+    const qsizetype length = InStrRev(line, "MB") - colon - 2;
     return length > 0 ? Val(Mid(line, colon + 2, length)) / kMegabytesPerGigabyte : 0;
 }
 

@@ -7,7 +7,6 @@ namespace tarnwell {
 namespace {
 
 constexpr int kTimeoutMs = 500;
-constexpr qint32 kUnreachable = -1;
 constexpr int kSuccess = 0;
 
 /// No single machine has the address of all hosts, or none.
@@ -20,10 +19,10 @@ bool namesOneHost(quint32 address) {
 qint32 PingConsole(const QString& address, Ping& ping) {
     const std::optional<quint32> host = parseInternetAddress(address);
     if (!host || !namesOneHost(*host)) {
-        return kUnreachable;
+        return kNoAnswer;
     }
     const Ping::Reply reply = ping.sendEcho(*host, QByteArrayLiteral("hello"), kTimeoutMs);
-    return reply.status == kSuccess ? reply.roundTripMs : kUnreachable;
+    return reply.status == kSuccess ? reply.roundTripMs : kNoAnswer;
 }
 
 } // namespace tarnwell

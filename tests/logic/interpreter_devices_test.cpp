@@ -65,9 +65,10 @@ TEST_F(DeviceStage, BoundsTheSizeByTheLastMb) {
     EXPECT_EQ(form.cmbHD.text(), "hdd1:  [2.0 GB]");
 }
 
-TEST_F(DeviceStage, TakesTheCharacterInFrontOfTheUnitForABlank) {
-    queryDisks("\thdd1:  20480MB, formatted Playstation 2 HDD");
-    EXPECT_EQ(form.cmbHD.text(), "hdd1:  [2.0 GB]");
+TEST_F(DeviceStage, ReadsTheWholeNumberWhetherItTouchesItsUnitOrNot) {
+    queryDisks("\thdd1:  20480MB, formatted Playstation 2 HDD\r\n"
+               "\thdd2:  20480 MB, formatted Playstation 2 HDD");
+    EXPECT_EQ(form.cmbHD.items(), (QStringList{"hdd1:  [20.0 GB]", "hdd2:  [20.0 GB]"}));
 }
 
 TEST_F(DeviceStage, ShowsADiskWithoutANumberAsEmpty) {

@@ -1,0 +1,36 @@
+#include "app/exit.h"
+
+#include "services/mod_ping.h"
+#include "services/mod_tray_icon.h"
+
+namespace tarnwell {
+
+Exit::Exit(Shared& shared, cStdIO& StdIO) : shared_(shared), StdIO_(StdIO) {
+    shared_.frmMain.cmdExit.Click = [this] { exitProgram(); };
+    shared_.frmMain.mnuExit.Click = [this] { exitProgram(); };
+    shared_.frmMain.Unload = [this](bool&) { exitProgram(); };
+}
+
+void Exit::exitProgram() {
+    turnConsoleOff();
+    TrayRemove(shared_.ports.tray);
+    shared_.frmStatus.untouched().unload();
+    // The window's own Unload comes back here once more, and that second pass ends the program.
+    shared_.frmMain.unload();
+    end();
+}
+
+void Exit::turnConsoleOff() {
+    const QString address = shared_.frmMain.txtIP.text;
+    if (!shared_.frmMain.optLAN.value || shared_.config.number("ClosePS2") != 1)
+        return;
+    if (PingConsole(address, shared_.ports.ping) != kNoAnswer)
+        StdIO_.ExecuteCommand(shared_.config.ToolPath() + " poweroff " + address);
+}
+
+void Exit::end() {
+    shared_.ports.pump.end();
+    throw ProgramEnded{};
+}
+
+} // namespace tarnwell

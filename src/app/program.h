@@ -1,0 +1,52 @@
+#pragma once
+
+#include "app/enable_gui.h"
+#include "app/event_dispatcher.h"
+#include "app/exit.h"
+#include "app/hide_and_restore.h"
+#include "app/navigation.h"
+#include "app/shared.h"
+#include "interpreter/output_interpreter.h"
+#include "queue/completion_actions.h"
+#include "queue/status_window.h"
+#include "tool/std_io.h"
+#include "tool/tool_channel.h"
+#include "workflows/device_selection.h"
+#include "workflows/install_now.h"
+#include "workflows/install_source.h"
+
+namespace tarnwell {
+
+/// The whole program but its looks: made of its parts, which attach themselves to the events of the windows.
+class Program {
+public:
+    explicit Program(const Ports& ports);
+
+    /// From the program's start to the shown main window.
+    void start();
+
+    Shared& shared() { return shared_; }
+    EventDispatcher& dispatcher() { return dispatcher_; }
+    HideAndRestore& hideAndRestore() { return hideAndRestore_; }
+
+private:
+    void loadMain();
+    void layOutMain();
+
+    Shared shared_;
+    EventDispatcher dispatcher_;
+    cStdIO StdIO_;
+    OutputInterpreter interpreter_;
+    ToolChannel channel_;
+    GuiSwitch guiSwitch_;
+    Navigation navigation_;
+    HideAndRestore hideAndRestore_;
+    Exit exit_;
+    StatusWindow statusWindow_;
+    CompletionActions completionActions_;
+    DeviceSelection deviceSelection_;
+    InstallSource installSource_;
+    InstallNow installNow_;
+};
+
+} // namespace tarnwell

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "tool/std_io.h"
+
+namespace tarnwell {
+
+/// Interrupts the running tool, as Ctrl+C at its console would. Quiet if none runs.
+void ShowStopPrompt(cStdIO& StdIO);
+
+/// Waits, without a limit, until a tool that was told to stop has gone.
+void WaitForStoppedTool(cStdIO& StdIO, EventPump& pump);
+
+} // namespace tarnwell

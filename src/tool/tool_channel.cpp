@@ -1,0 +1,112 @@
+#include "tool/tool_channel.h"
+
+#include "app/fault.h"
+#include "queue/elapsed.h"
+
+namespace tarnwell {
+
+namespace {
+
+constexpr int kAttempts = 4;
+constexpr double kPauseSeconds = 2.0;
+constexpr int kLookAgainMilliseconds = 30;
+
+} // namespace
+
+ToolChannel::ToolChannel(Shared& shared, cStdIO& StdIO, OutputInterpreter& interpreter)
+    : shared_(shared), StdIO_(StdIO), interpreter_(interpreter) {
+    StdIO_.GotData = [this](const QString& Data) { StdIO_GotData(Data); };
+}
+
+QString ToolChannel::Tarn_Command(const QString& strCommand) {
+    blnGotData_ = false;
+    QString answer;
+    for (int attempt = 1;; ++attempt) {
+        if (StdIO_.Ready())
+            answer = run(strCommand);
+        if (attempt == kAttempts)
+            break;
+        if (answeredWithinPause())
+            return answer;
+    }
+    shared_.message("An unknown error has occurred. Please try restarting the program and make sure to close "
+                    "tarnwell.exe by pressing CTRL+ALT+DEL.");
+    return {};
+}
+
+void ToolChannel::Tarn_Execute(const QString& strRawCommand) {
+    if (StdIO_.Ready())
+        run(strRawCommand);
+    else
+        shared_.message("Unexpected error.", MessageIcon::Stop);
+}
+
+QString ToolChannel::run(const QString& command) {
+    shared_.frmMain.txtCommand.text = command;
+    shared_.frmMain.txtOutput.text = QString();
+    QString output = StdIO_.ExecuteCommand(shared_.config.ToolPath() + ' ' + command);
+    reportUnreadableLine();
+    return output;
+}
+
+bool ToolChannel::answeredWithinPause() {
+    // Across midnight the difference is negative until the clock has caught up.
+    const double start = shared_.ports.clock.secondsSinceMidnight();
+    do {
+        if (blnGotData_)
+            return true;
+        shared_.ports.pump.waitForEvent(kLookAgainMilliseconds);
+    } while (shared_.ports.clock.secondsSinceMidnight() - start < kPauseSeconds);
+    return false;
+}
+
+void ToolChannel::StdIO_GotData(const QString& Data) {
+    showChunk(Data);
+    if (shared_.jobRunning())
+        refreshElapsedTimes();
+    if (!shared_.blnReadTOC)
+        interpret(Data);
+    blnGotData_ = true;
+}
+
+void ToolChannel::showChunk(const QString& chunk) {
+    shared_.frmMain.txtOutput.text = chunk.endsWith("\r\n") ? chunk.chopped(2) : chunk;
+}
+
+void ToolChannel::refreshElapsedTimes() {
+    const Clock& clock = shared_.ports.clock;
+    const qint32 now = clock.tickCount();
+    const QString current = FormatElapsed(now - shared_.lJobStartTick, clock);
+    shared_.frmStatus->lblCurrentElapsed.caption = current;
+    shared_.frmStatus->lblOverallElapsed.caption =
+        shared_.blnInstallRunning ? current : FormatElapsed(now - shared_.lQueueStartTick, clock);
+}
+
+void ToolChannel::interpret(const QString& chunk) {
+    const bool ofJob = shared_.jobRunning();
+    try {
+        interpreter_.ParseToolOutput(chunk);
+    } catch (const Fault& fault) {
+        // The answer to a query is read once more as a whole, and fails there, before its caller. The output of a job
+        // is not: the run goes on, and the first line that could not be read is told when it has ended.
+        if (ofJob && !unreadableLine_)
+            unreadableLine_ = fault.text();
+    }
+}
+
+void ToolChannel::reportUnreadableLine() {
+    if (!unreadableLine_)
+        return;
+    const QString text = *unreadableLine_;
+    unreadableLine_.reset();
+    shared_.message(text);
+}
+
+bool requireTool(Shared& shared) {
+    if (shared.config.toolExists())
+        return true;
+    shared.message("tarnwell.exe was not found. Place it in the same directory as this program and try again.");
+    return false;
+}
+
+} // namespace tarnwell

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "interpreter/output_interpreter.h"
+#include "tool/std_io.h"
+
+#include <optional>
+
+namespace tarnwell {
+
+/// The doors through which commands reach the tool and its output comes back. It is busy while the tool runs; there is
+/// no queue of commands. Above it nobody deals with processes, below it nobody knows the tool's language.
+class ToolChannel {
+public:
+    ToolChannel(Shared& shared, cStdIO& StdIO, OutputInterpreter& interpreter);
+
+    /// Runs a command that must answer: a tool that stays silent is run up to four times, two seconds apart, before
+    /// the user is told. Returns all that the tool printed, nothing after a failure. Waits for a busy channel through
+    /// the same attempts.
+    QString Tarn_Command(const QString& strCommand);
+
+    /// Runs a command once, whether it prints anything or not. Tells the user if the channel is busy.
+    void Tarn_Execute(const QString& strRawCommand);
+
+private:
+    void StdIO_GotData(const QString& Data);
+    QString run(const QString& command);
+    bool answeredWithinPause();
+    void showChunk(const QString& chunk);
+    void refreshElapsedTimes();
+    void interpret(const QString& chunk);
+    void reportUnreadableLine();
+
+    Shared& shared_;
+    cStdIO& StdIO_;
+    OutputInterpreter& interpreter_;
+    bool blnGotData_ = false; ///< something has arrived since the last Tarn_Command began
+    std::optional<QString> unreadableLine_;
+};
+
+/// Tells the user that the tool is missing. Returns whether it is there.
+bool requireTool(Shared& shared);
+
+} // namespace tarnwell

@@ -1,0 +1,193 @@
+#include "workflows/device_selection.h"
+
+#include "interpreter/tool_commands.h"
+#include "queue/percent_bar.h"
+#include "services/mod_ping.h"
+#include "workflows/query.h"
+
+namespace tarnwell {
+
+namespace {
+
+constexpr int kEnterKey = 13;
+constexpr int kNarrowRefresh = 1215; // beside the shutdown button
+constexpr int kWideRefresh = 2175;   // over its place too
+
+const QString kNoGames = QStringLiteral("Browse, Backup, and Delete - 0 Games");
+const QString kNoDevice = QStringLiteral("(no active device)");
+
+QString consoleNotFound(const QString& address) {
+    return "A PS2 console could not be found at IP address: " + address +
+           "\r\n\r\nVerify the following:\r\n\r\n"
+           "1. The PS2 console is currently running tarnd_svr.elf and it is fully initialized.\r\n"
+           "2. The IP address you entered matches the IP address configured in mc0:SYS-CONF/IPCONFIG.DAT\r\n";
+}
+
+} // namespace
+
+DeviceSelection::DeviceSelection(Shared& shared, ToolChannel& channel, OutputInterpreter& interpreter)
+    : shared_(shared), channel_(channel), interpreter_(interpreter) {
+    ui::FrmMain& frmMain = shared_.frmMain;
+    frmMain.optLAN.Click = [this] { chooseLan(); };
+    frmMain.optLocal.Click = [this] { chooseLocal(); };
+    frmMain.cmbHD.Click = [this] { updateCopyTargets(); };
+    frmMain.cmdAttach.Click = [this] { refresh(); };
+    frmMain.cmdShutdownPS2.Click = [this] { shutDownConsole(); };
+    frmMain.txtIP.Change = [this] { changeAddress(); };
+    frmMain.txtIP.KeyPress = [this](int& key) { pressKeyInAddress(key); };
+}
+
+void DeviceSelection::chooseLan() {
+    ui::FrmMain& frmMain = shared_.frmMain;
+    frmMain.cmbHD.listIndex = -1;
+    frmMain.cmbHD.visible = false;
+    frmMain.lblIP.visible = true;
+    frmMain.txtIP.visible = true;
+    frmMain.cmdShutdownPS2.visible = true;
+    frmMain.cmdAttach.caption = "Refresh PS2";
+    frmMain.cmdAttach.width = kNarrowRefresh;
+    resetSpace();
+    frmMain.lstHD.clear();
+    disableDeviceGroup();
+}
+
+void DeviceSelection::chooseLocal() {
+    ui::FrmMain& frmMain = shared_.frmMain;
+    if (!requireTool(shared_)) {
+        frmMain.optLAN.value = true;
+        return;
+    }
+    const int chosen = frmMain.cmbHD.listIndex;
+    queryDisks();
+    if (frmMain.cmbHD.listCount() == 0) {
+        frmMain.optLAN.value = true;
+        shared_.message("No PS2 formatted HDD's were found on your system.");
+        return;
+    }
+    chooseDiskAgain(chosen);
+    frmMain.lblIP.visible = false;
+    frmMain.txtIP.visible = false;
+    frmMain.cmdAttach.caption = "Refresh HDD";
+    frmMain.cmdAttach.width = kWideRefresh;
+    frmMain.cmdShutdownPS2.visible = false;
+    resetDevice();
+    frmMain.cmbHD.visible = true;
+    // Chosen once more, so that its Click runs with the list visible.
+    chooseDiskAgain(frmMain.cmbHD.listIndex);
+}
+
+void DeviceSelection::updateCopyTargets() {
+    // A disk cannot be chosen as the copy target of itself.
+    ui::FrmMain& frmMain = shared_.frmMain;
+    const int entries = std::min(frmMain.cmbHD.listCount(), ui::FrmMain::kHddEntries);
+    for (int i = 0; i < entries; ++i)
+        frmMain.mnuHDD[static_cast<std::size_t>(i)].enabled = i != frmMain.cmbHD.listIndex;
+}
+
+void DeviceSelection::refresh() {
+    ui::FrmMain& frmMain = shared_.frmMain;
+    if (!requireTool(shared_))
+        return;
+    if (frmMain.optLocal.value && frmMain.cmbHD.text().isEmpty()) {
+        shared_.message("No hard-drive selected.");
+        return;
+    }
+    if (frmMain.optLAN.value && !addressEntered())
+        return;
+    frmMain.cmdAddGame.enabled = false;
+    frmMain.cmdInstall.enabled = false;
+    const Hourglass hourglass(frmMain);
+    if (frmMain.optLAN.value) {
+        // A networked console too has the local disks as targets of a copy.
+        const int chosen = frmMain.cmbHD.listIndex;
+        queryDisks();
+        chooseDiskAgain(chosen);
+    }
+    const AwaitedAnswer gameList(shared_.blnReadTOC);
+    if (frmMain.optLocal.value || consoleAnswers())
+        readGameList();
+    else
+        shared_.blnReadTOC = false;
+}
+
+void DeviceSelection::readGameList() {
+    interpreter_.ParseToolOutput(
+        channel_.Tarn_Command(GameListCommand(ActiveDeviceLong(shared_.frmMain))));
+}
+
+void DeviceSelection::shutDownConsole() {
+    ui::FrmMain& frmMain = shared_.frmMain;
+    if (!requireTool(shared_))
+        return;
+    if (frmMain.optLAN.value && !addressEntered())
+        return;
+    if (!consoleAnswers())
+        return;
+    const QString command = PowerOffCommand(frmMain.txtIP.text);
+    frmMain.txtCommand.text = command;
+    frmMain.txtOutput.text = QString();
+    resetDevice();
+    channel_.Tarn_Execute(command);
+}
+
+void DeviceSelection::changeAddress() {
+    shared_.config.write("IP", shared_.frmMain.txtIP.text);
+    disableDeviceGroup();
+    shared_.frmMain.lstHD.clear();
+    resetSpace();
+}
+
+void DeviceSelection::pressKeyInAddress(int& key) {
+    if (key != kEnterKey)
+        return;
+    key = 0;
+    refresh();
+}
+
+void DeviceSelection::queryDisks() {
+    shared_.frmMain.cmbHD.clear();
+    shared_.frmMain.fmBrowse.caption = kNoGames;
+    RunQuery(shared_.blnQueryHD, shared_, channel_, interpreter_);
+}
+
+void DeviceSelection::chooseDiskAgain(int index) {
+    ui::ComboBox& cmbHD = shared_.frmMain.cmbHD;
+    if (index != -1 && cmbHD.listCount() > 0)
+        cmbHD.listIndex = index;
+}
+
+bool DeviceSelection::addressEntered() {
+    if (!shared_.frmMain.txtIP.text.get().isEmpty())
+        return true;
+    shared_.message("Please enter the IP address of your PlayStation2.");
+    return false;
+}
+
+bool DeviceSelection::consoleAnswers() {
+    const QString address = shared_.frmMain.txtIP.text;
+    if (PingConsole(address, shared_.ports.ping) != kNoAnswer)
+        return true;
+    shared_.message(consoleNotFound(address));
+    return false;
+}
+
+void DeviceSelection::resetDevice() {
+    disableDeviceGroup();
+    shared_.frmMain.lstHD.clear();
+    resetSpace();
+}
+
+void DeviceSelection::disableDeviceGroup() {
+    ui::FrmMain& frmMain = shared_.frmMain;
+    for (ui::Button* button :
+         {&frmMain.cmdAddGame, &frmMain.cmdInstall, &frmMain.cmdBackupPC, &frmMain.cmdBackupPS2,
+          &frmMain.cmdBackupHDD, &frmMain.cmdDelete, &frmMain.cmdSaveList})
+        button->enabled = false;
+}
+
+void DeviceSelection::resetSpace() {
+    PercentBar(shared_.frmMain.picDiskSpace, 100, 0, shared_.ports.pump);
+    shared_.frmMain.lblDiskSpace.caption = kNoDevice;
+}
+
+} // namespace tarnwell

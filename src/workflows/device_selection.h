@@ -1,0 +1,39 @@
+#pragma once
+
+#include "interpreter/output_interpreter.h"
+#include "tool/tool_channel.h"
+
+namespace tarnwell {
+
+/// The choice between a networked console and a local disk, the loading of its game list, and the shutdown of the
+/// console. A device is active from a refresh on, until the mode or the address changes or the console is shut down;
+/// a mere selection in the disk list leaves the old game list on view.
+class DeviceSelection {
+public:
+    DeviceSelection(Shared& shared, ToolChannel& channel, OutputInterpreter& interpreter);
+
+private:
+    void chooseLan();
+    void chooseLocal();
+    void updateCopyTargets();
+    void refresh();
+    void shutDownConsole();
+    void changeAddress();
+    void pressKeyInAddress(int& key);
+
+    void queryDisks();
+    void chooseDiskAgain(int index);
+    void readGameList();
+    bool addressEntered();
+    bool consoleAnswers();
+
+    void resetDevice();
+    void disableDeviceGroup();
+    void resetSpace();
+
+    Shared& shared_;
+    ToolChannel& channel_;
+    OutputInterpreter& interpreter_;
+};
+
+} // namespace tarnwell

@@ -1,0 +1,39 @@
+#include "workflows/free_space.h"
+
+#include "app/fault.h"
+#include "interpreter/text_primitives.h"
+
+namespace tarnwell {
+
+namespace {
+
+constexpr qint32 kUnitMegabytes = 128;
+
+qint32 sizeOfSource(const QString& tag) {
+    bool isNumber = false;
+    const double megabytes = tag.toDouble(&isNumber);
+    if (!isNumber)
+        throw Fault("The size of the game is not known, because the tool has not read the image or disc yet. "
+                    "Choose the image file or the drive again, and wait until its size is shown.");
+    return RoundToInt32(megabytes);
+}
+
+} // namespace
+
+qint32 RoundUp128(qint32 size) {
+    const qint32 rest = size % kUnitMegabytes;
+    return rest == 0 ? size : size - rest + kUnitMegabytes;
+}
+
+bool EnoughFreeSpace(Shared& shared) {
+    const QString available = shared.frmMain.picDiskSpace.tag;
+    const qint32 needed = RoundUp128(sizeOfSource(shared.frmMain.txtGameSize.tag));
+    if (Val(available) >= needed)
+        return true;
+    shared.message("You do not have enough available space on your hard-drive to install this game.\r\n\r\n"
+                   "To install this game you need " +
+                   QString::number(needed) + "MB and you only have " + available + "MB available.");
+    return false;
+}
+
+} // namespace tarnwell

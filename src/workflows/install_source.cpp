@@ -1,0 +1,152 @@
+#include "workflows/install_source.h"
+
+#include "app/fault.h"
+#include "interpreter/tool_commands.h"
+#include "workflows/query.h"
+
+namespace tarnwell {
+
+namespace {
+
+constexpr int kEnterKey = 13;
+constexpr int kDvdRom = 1;
+constexpr std::size_t kClearedFlags = 7;
+
+const QString kImageFilter = QStringLiteral(
+    "ISO Files (*.iso)|*.iso|Nero Burning Image (*.nrg)|*.nrg|RecordNow! Global Image (*.gi)|*.gi|"
+    "Sony CD/DVD Generator's Intermediate (*.iml)|*.iml|");
+
+} // namespace
+
+InstallSource::InstallSource(Shared& shared, ToolChannel& channel, OutputInterpreter& interpreter)
+    : shared_(shared), channel_(channel), interpreter_(interpreter) {
+    ui::FrmMain& frmMain = shared_.frmMain;
+    frmMain.optISO.Click = [this] { chooseIso(); };
+    frmMain.optOptical.Click = [this] { chooseOptical(); };
+    frmMain.cmbOptical.Click = [this] { readDisc(); };
+    frmMain.cmdISO.Click = [this] { browse(); };
+    frmMain.txtISO.Change = [&frmMain] { frmMain.cmdCompat.enabled = !frmMain.txtISO.text.get().isEmpty(); };
+    frmMain.txtISO.GotFocus = [&frmMain] { frmMain.txtISO.caretVisible = false; };
+    frmMain.txtGameSize.GotFocus = [&frmMain] { frmMain.txtGameSize.caretVisible = false; };
+    frmMain.txtGameName.KeyPress = [this](int& key) { pressKeyInName(key); };
+    frmMain.cmdCompat.Click = [this] { openFlagsMenu(); };
+    for (ui::MenuEntry& flag : frmMain.mnuFlags)
+        flag.Click = [&flag] { flag.checked = !flag.checked; };
+    frmMain.mnuDone.Click = [&frmMain] { frmMain.mnuCompat.close(); };
+}
+
+void InstallSource::chooseIso() {
+    ui::FrmMain& frmMain = shared_.frmMain;
+    frmMain.cmbOptical.listIndex = -1;
+    frmMain.cmbOptical.enabled = false;
+    frmMain.cmdISO.enabled = true;
+    frmMain.txtISO.enabled = true;
+    frmMain.txtGameName.text = QString();
+    frmMain.txtGameStartup.text = QString();
+    frmMain.cmdCompat.enabled = false;
+    frmMain.cmdMakeISO.enabled = false;
+    frmMain.lblDVD9.visible = false;
+    clearCompatibilityFlags(frmMain);
+}
+
+void InstallSource::chooseOptical() {
+    if (!requireTool(shared_))
+        return;
+    ui::FrmMain& frmMain = shared_.frmMain;
+    frmMain.txtISO.text = QString();
+    frmMain.txtISO.enabled = false;
+    frmMain.cmdISO.enabled = false;
+    frmMain.txtGameName.text = QString();
+    frmMain.txtGameStartup.text = QString();
+    frmMain.txtGameSize.text = QString();
+    frmMain.cmbType.listIndex = kDvdRom;
+    frmMain.lblDVD9.visible = false;
+    frmMain.cmbOptical.enabled = true;
+    frmMain.cmdCompat.enabled = false;
+    frmMain.cmbOptical.clear();
+    {
+        const Hourglass hourglass(frmMain);
+        RunQuery(shared_.blnQueryOptical, shared_, channel_, interpreter_);
+    }
+    if (frmMain.cmbOptical.listCount() == 1)
+        frmMain.cmbOptical.listIndex = 0;
+    clearCompatibilityFlags(frmMain);
+}
+
+void InstallSource::readDisc() {
+    ui::ComboBox& cmbOptical = shared_.frmMain.cmbOptical;
+    if (cmbOptical.listIndex == -1 || !requireTool(shared_))
+        return;
+    const AwaitedAnswer discInfo(shared_.blnDiscInfo);
+    askForDiscInfo(DriveInfoCommand(ResolveOpticalDrive(shared_.frmMain, cmbOptical.text())));
+}
+
+void InstallSource::browse() {
+    if (!requireTool(shared_))
+        return;
+    const auto path = shared_.ports.dialogs.openFile(
+        {.filter = kImageFilter, .folder = shared_.config.text("DefaultISO"), .mustExist = true});
+    if (path && !path->isEmpty())
+        readImage(*path);
+    else
+        forgetImage();
+}
+
+void InstallSource::readImage(const QString& path) {
+    clearCompatibilityFlags(shared_.frmMain);
+    shared_.frmMain.txtISO.text = path;
+    shared_.blnDiscInfo = true;
+    try {
+        askForDiscInfo(ImageInfoCommand(path));
+    } catch (const Fault&) {
+        // An image that the tool cannot make sense of leaves the rest of the page for the user to fill in.
+    }
+}
+
+void InstallSource::forgetImage() {
+    ui::FrmMain& frmMain = shared_.frmMain;
+    frmMain.txtISO.text = QString();
+    frmMain.txtGameName.text = QString();
+    frmMain.txtGameStartup.text = QString();
+    frmMain.txtGameSize.text = QString();
+    frmMain.cmbType.listIndex = kDvdRom;
+    frmMain.cmdCompat.enabled = false;
+}
+
+void InstallSource::askForDiscInfo(const QString& command) {
+    const Hourglass hourglass(shared_.frmMain);
+    interpreter_.ParseToolOutput(channel_.Tarn_Command(command));
+}
+
+void InstallSource::openFlagsMenu() {
+    const ui::FrmMain& frmMain = shared_.frmMain;
+    // The frame's top is not added: it lies at the top of the window.
+    shared_.frmMain.mnuCompat.popUp(frmMain.fmInstall.left + frmMain.cmdCompat.left,
+                                    frmMain.cmdCompat.top + frmMain.cmdCompat.height);
+}
+
+void InstallSource::pressKeyInName(int& key) {
+    if (key != kEnterKey)
+        return;
+    key = 0;
+    shared_.frmMain.cmdAddGame.Click();
+}
+
+void clearCompatibilityFlags(ui::FrmMain& frmMain) {
+    for (std::size_t i = 0; i < kClearedFlags; ++i)
+        frmMain.mnuFlags[i].checked = false;
+}
+
+void resetInstallPage(ui::FrmMain& frmMain) {
+    clearCompatibilityFlags(frmMain);
+    frmMain.cmdCompat.enabled = false;
+    frmMain.txtISO.text = QString();
+    frmMain.txtGameName.text = QString();
+    frmMain.txtGameStartup.text = QString();
+    frmMain.txtGameSize.text = QString();
+    frmMain.cmbType.listIndex = kDvdRom;
+    frmMain.cmbOptical.listIndex = -1;
+    frmMain.lblDVD9.visible = false;
+}
+
+} // namespace tarnwell

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "interpreter/output_interpreter.h"
+#include "tool/tool_channel.h"
+
+namespace tarnwell {
+
+/// The install page: an image file or an optical drive, what the tool says about it, and the compatibility flags.
+class InstallSource {
+public:
+    InstallSource(Shared& shared, ToolChannel& channel, OutputInterpreter& interpreter);
+
+private:
+    void chooseIso();
+    void chooseOptical();
+    void readDisc();
+    void browse();
+    void readImage(const QString& path);
+    void forgetImage();
+    void askForDiscInfo(const QString& command);
+    void openFlagsMenu();
+    void pressKeyInName(int& key);
+
+    Shared& shared_;
+    ToolChannel& channel_;
+    OutputInterpreter& interpreter_;
+};
+
+/// Unticks flags 1 to 7. Flag 8 stays as it is: it survives into the next game.
+void clearCompatibilityFlags(ui::FrmMain& frmMain);
+
+/// Empties the page after a game has been taken from it; the hidden size and flag 8 stay.
+void resetInstallPage(ui::FrmMain& frmMain);
+
+} // namespace tarnwell

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "interpreter/output_interpreter.h"
+#include "tool/tool_channel.h"
+
+namespace tarnwell {
+
+/// Says that the next output of the tool answers a question, for as long as the interpreter leaves the flag standing.
+/// If the answer cannot be read, the question is dropped: later output must not be taken for it.
+class AwaitedAnswer {
+public:
+    explicit AwaitedAnswer(bool& flag) : flag_(flag), exceptions_(std::uncaught_exceptions()) { flag_ = true; }
+    ~AwaitedAnswer() {
+        if (std::uncaught_exceptions() > exceptions_)
+            flag_ = false;
+    }
+    AwaitedAnswer(const AwaitedAnswer&) = delete;
+    AwaitedAnswer& operator=(const AwaitedAnswer&) = delete;
+
+private:
+    bool& flag_;
+    int exceptions_;
+};
+
+/// The pointer of a window is the hourglass for as long as this lives: the only sign of a short run.
+class Hourglass {
+public:
+    explicit Hourglass(ui::Form& form) : form_(form) { form_.mousePointer = ui::MousePointer::Hourglass; }
+    ~Hourglass() { form_.mousePointer = ui::MousePointer::Default; }
+    Hourglass(const Hourglass&) = delete;
+    Hourglass& operator=(const Hourglass&) = delete;
+
+private:
+    ui::Form& form_;
+};
+
+/// Asks the tool for the PC's disks and drives and returns when the answer has been read. `flag` says which lists the
+/// answer fills.
+void RunQuery(bool& flag, Shared& shared, ToolChannel& channel, OutputInterpreter& interpreter);
+
+} // namespace tarnwell

@@ -1,0 +1,204 @@
+#include "support/program_test.h"
+
+namespace tarnwell::test {
+
+namespace {
+
+const QByteArray kOneDrive = "\tcd0:  no disc\r\n\tcd1:  4482 MB\r\nvia SPTI:\r\n\tD: no disc: none\r\n\tE: disc 4482 MB\r\n";
+const QByteArray kTwoDrives = "\tcd0:  700 MB\r\n\tcd1:  4482 MB\r\nvia SPTI:\r\n\tD: disc 700 MB\r\n\tE: disc 4482 MB\r\n";
+const QByteArray kNoDrives = "\tcd0:  no disc\r\n";
+const QByteArray kDvd = "DVD 4193280KB \"RATCHET\" \"SLUS_200.71\"\r\n";
+
+struct InstallSource : ProgramTest {
+    InstallSource() {
+        answerQueryWith(kOneDrive);
+        answerDiscInfoWith(kDvd);
+        start();
+    }
+
+    void pick(const QString& file) {
+        ports.dialogs.openFileAnswers.push_back(file);
+        ui::click(frmMain.cmdISO);
+    }
+    void checkFlags(std::initializer_list<std::size_t> entries) {
+        for (const std::size_t entry : entries)
+            ui::click(frmMain.mnuFlags[entry]);
+    }
+    QString checkedFlags() const {
+        QString checked;
+        for (std::size_t i = 0; i < frmMain.mnuFlags.size(); ++i)
+            checked += frmMain.mnuFlags[i].checked ? '1' : '0';
+        return checked;
+    }
+};
+
+} // namespace
+
+TEST_F(InstallSource, PickingAnImageFillsThePage) {
+    pick("/games/My Game.iso");
+    EXPECT_EQ(commands(), QStringList("cdvd_info2 \"/games/My Game.iso\""));
+    EXPECT_EQ(frmMain.txtISO.text.get(), "/games/My Game.iso");
+    EXPECT_EQ(frmMain.txtGameName.text.get(), "RATCHET");
+    EXPECT_EQ(frmMain.txtGameStartup.text.get(), "SLUS_200.71");
+    EXPECT_EQ(frmMain.txtGameSize.text.get(), "4.00GB");
+    EXPECT_EQ(frmMain.txtGameSize.tag.get(), "4095");
+    EXPECT_EQ(frmMain.cmbType.text(), "DVD-ROM");
+    EXPECT_TRUE(frmMain.cmdCompat.enabled);
+    EXPECT_FALSE(frmMain.cmdMakeISO.enabled);
+    EXPECT_EQ(frmMain.mousePointer, ui::MousePointer::Default);
+}
+
+TEST_F(InstallSource, TheFileDialogStartsInTheFolderOfTheSettings) {
+    store("DefaultISO", "/games/");
+    pick("/games/a.iso");
+    ASSERT_EQ(ports.dialogs.openFileRequests.size(), 1u);
+    EXPECT_EQ(ports.dialogs.openFileRequests[0].folder, "/games/");
+    EXPECT_TRUE(ports.dialogs.openFileRequests[0].mustExist);
+    EXPECT_TRUE(ports.dialogs.openFileRequests[0].filter.startsWith("ISO Files (*.iso)|*.iso|"));
+}
+
+TEST_F(InstallSource, CancellingTheFileDialogClearsThePage) {
+    pick("/games/a.iso");
+    frmMain.cmbType.listIndex = 0;
+    ui::click(frmMain.cmdISO);
+    EXPECT_EQ(frmMain.txtISO.text.get(), "");
+    EXPECT_EQ(frmMain.txtGameName.text.get(), "");
+    EXPECT_EQ(frmMain.txtGameStartup.text.get(), "");
+    EXPECT_EQ(frmMain.txtGameSize.text.get(), "");
+    EXPECT_EQ(frmMain.cmbType.text(), "DVD-ROM");
+    EXPECT_FALSE(frmMain.cmdCompat.enabled);
+    EXPECT_TRUE(ports.dialogs.messages.empty());
+}
+
+TEST_F(InstallSource, AnImageThatTheToolCannotReadLeavesThePageToTheUser) {
+    answerDiscInfoWith("bad ISOFS.\r\n");
+    pick("/games/broken.iso");
+    EXPECT_EQ(frmMain.txtISO.text.get(), "/games/broken.iso");
+    EXPECT_EQ(frmMain.txtGameName.text.get(), "");
+    EXPECT_TRUE(ports.dialogs.messages.empty());
+    EXPECT_EQ(frmMain.mousePointer, ui::MousePointer::Default);
+}
+
+TEST_F(InstallSource, ATooShortAnswerAboutAnImageIsPassedOver) {
+    answerDiscInfoWith("DVD 4193280KB\r\n");
+    pick("/games/odd.iso");
+    EXPECT_TRUE(ports.dialogs.messages.empty());
+    EXPECT_EQ(frmMain.mousePointer, ui::MousePointer::Default);
+}
+
+TEST_F(InstallSource, ATooShortAnswerAboutADiscIsToldOnce) {
+    answerDiscInfoWith("DVD 4193280KB\r\n");
+    ui::click(frmMain.optOptical);
+    EXPECT_EQ(ports.dialogs.messages.size(), 1u);
+    EXPECT_FALSE(program.shared().blnDiscInfo);
+    EXPECT_EQ(frmMain.mousePointer, ui::MousePointer::Default);
+}
+
+TEST_F(InstallSource, ASingleDriveWithADiscIsChosenAndReadAtOnce) {
+    ui::click(frmMain.optOptical);
+    EXPECT_EQ(commands(), QStringList({"query", "cdvd_info2 E:"}));
+    EXPECT_EQ(frmMain.cmbOptical.text(), "cd1:  [4.38GB]");
+    EXPECT_EQ(frmMain.txtGameName.text.get(), "RATCHET");
+    EXPECT_TRUE(frmMain.cmdMakeISO.enabled);
+    EXPECT_FALSE(frmMain.txtISO.enabled);
+    EXPECT_FALSE(frmMain.cmdISO.enabled);
+}
+
+TEST_F(InstallSource, TwoDrivesWithDiscsLeaveTheChoiceToTheUser) {
+    answerQueryWith(kTwoDrives);
+    ui::click(frmMain.optOptical);
+    EXPECT_EQ(commands(), QStringList("query"));
+    EXPECT_EQ(frmMain.cmbOptical.listIndex, -1);
+    ui::choose(frmMain.cmbOptical, 0);
+    EXPECT_EQ(commands().last(), "cdvd_info2 D:");
+}
+
+TEST_F(InstallSource, WithoutADiscTheSourceFallsBackToTheImage) {
+    answerQueryWith(kNoDrives);
+    ui::click(frmMain.optOptical);
+    EXPECT_EQ(ports.dialogs.messageTexts(),
+              QStringList("There were no game disks found in any of your optical drives."));
+    EXPECT_TRUE(frmMain.optISO.value);
+    EXPECT_TRUE(frmMain.cmdISO.enabled);
+    EXPECT_FALSE(frmMain.cmbOptical.enabled);
+}
+
+TEST_F(InstallSource, OpticalWithoutTheToolChangesNothing) {
+    pick("/games/a.iso");
+    removeTool();
+    ui::click(frmMain.optOptical);
+    EXPECT_EQ(ports.dialogs.messages.size(), 1u);
+    EXPECT_EQ(frmMain.txtISO.text.get(), "/games/a.iso");
+}
+
+TEST_F(InstallSource, GoingBackToTheImageClearsThePageButNotTheSize) {
+    ui::click(frmMain.optOptical);
+    ui::click(frmMain.optISO);
+    EXPECT_EQ(frmMain.cmbOptical.listIndex, -1);
+    EXPECT_FALSE(frmMain.cmbOptical.enabled);
+    EXPECT_EQ(frmMain.txtGameName.text.get(), "");
+    EXPECT_EQ(frmMain.txtGameStartup.text.get(), "");
+    EXPECT_EQ(frmMain.txtGameSize.text.get(), "4.00GB");
+    EXPECT_FALSE(frmMain.cmdCompat.enabled);
+    EXPECT_FALSE(frmMain.cmdMakeISO.enabled);
+}
+
+TEST_F(InstallSource, FlagEightSurvivesAChangeOfTheSource) {
+    checkFlags({0, 2, 6, 7});
+    EXPECT_EQ(checkedFlags(), "10100011");
+    ui::click(frmMain.optOptical);
+    EXPECT_EQ(checkedFlags(), "00000001");
+    checkFlags({1});
+    ui::click(frmMain.optISO);
+    EXPECT_EQ(checkedFlags(), "00000001");
+}
+
+TEST_F(InstallSource, PickingAnImageClearsFlagsOneToSeven) {
+    checkFlags({0, 7});
+    pick("/games/a.iso");
+    EXPECT_EQ(checkedFlags(), "00000001");
+}
+
+TEST_F(InstallSource, AFlagThatIsClickedTwiceIsOff) {
+    checkFlags({3, 3});
+    EXPECT_EQ(checkedFlags(), "00000000");
+}
+
+TEST_F(InstallSource, TheFlagsMenuOpensUnderItsButton) {
+    std::vector<std::pair<int, int>> places;
+    int closings = 0;
+    frmMain.mnuCompat.poppedUp.connect([&](int x, int y) { places.emplace_back(x, y); });
+    frmMain.mnuCompat.closed.connect([&] { ++closings; });
+    frmMain.cmdCompat.left = 120;
+    frmMain.cmdCompat.top = 2000;
+    frmMain.cmdCompat.height = 300;
+    pick("/games/a.iso");
+    ui::click(frmMain.cmdCompat);
+    EXPECT_EQ(places, (std::vector<std::pair<int, int>>{{5040 + 120, 2300}}));
+    ui::click(frmMain.mnuDone);
+    EXPECT_EQ(closings, 1);
+}
+
+TEST_F(InstallSource, EnterInTheNameActsAsAddToJobQueue) {
+    int clicks = 0;
+    frmMain.cmdAddGame.Click = [&] { ++clicks; };
+    EXPECT_FALSE(ui::pressKey(frmMain.txtGameName, 13));
+    EXPECT_TRUE(ui::pressKey(frmMain.txtGameName, 'x'));
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(InstallSource, TheFlagsButtonFollowsTheImagePath) {
+    frmMain.txtISO.text = QString("x.iso");
+    EXPECT_TRUE(frmMain.cmdCompat.enabled);
+    frmMain.txtISO.text = QString();
+    EXPECT_FALSE(frmMain.cmdCompat.enabled);
+}
+
+TEST_F(InstallSource, FieldsThatCannotBeTypedInShowNoCaret) {
+    ui::focus(frmMain.txtISO);
+    ui::focus(frmMain.txtGameSize);
+    EXPECT_FALSE(frmMain.txtISO.caretVisible);
+    EXPECT_FALSE(frmMain.txtGameSize.caretVisible);
+}
+
+} // namespace tarnwell::test

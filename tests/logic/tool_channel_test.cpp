@@ -1,0 +1,185 @@
+#include "tool/tool_channel.h"
+#include "support/program_test.h"
+
+using namespace tarnwell;
+using namespace tarnwell::test;
+
+namespace {
+
+const QString kUnknownError = "An unknown error has occurred. Please try restarting the program and make sure to "
+                              "close tarnwell.exe by pressing CTRL+ALT+DEL.";
+
+struct ToolChannelTest : ProgramTest {
+    Shared shared{ports.ports()};
+    cStdIO StdIO{shared};
+    OutputInterpreter interpreter{shared};
+    ToolChannel channel{shared, StdIO, interpreter};
+    ui::FrmMain& frmMain = shared.frmMain;
+};
+
+} // namespace
+
+TEST_F(ToolChannelTest, ACommandGoesBehindTheUnquotedPathOfTheTool) {
+    ports.folders.folder = path("a folder with blanks");
+    ports.launcher.on("query", QByteArray("answer"));
+    EXPECT_EQ(channel.Tarn_Command("query"), "answer");
+    EXPECT_EQ(ports.launcher.commandLines(), QStringList(ports.folders.folder + "/tarnwell.exe query"));
+    EXPECT_EQ(frmMain.txtCommand.text.get(), "query");
+}
+
+TEST_F(ToolChannelTest, AnAnswerReturnsAtOnce) {
+    ports.launcher.on("query", QByteArray("answer"));
+    const qint64 start = ports.clock.now;
+    channel.Tarn_Command("query");
+    EXPECT_LT(ports.clock.now - start, 100);
+    EXPECT_EQ(ports.launcher.children.size(), 1u);
+}
+
+TEST_F(ToolChannelTest, ASilentToolIsRunFourTimesTwoSecondsApartAndThenTheUserIsTold) {
+    const qint64 start = ports.clock.now;
+    EXPECT_EQ(channel.Tarn_Command("query"), "");
+    EXPECT_EQ(ports.launcher.children.size(), 4u);
+    EXPECT_GE(ports.clock.now - start, 6000);
+    EXPECT_LT(ports.clock.now - start, 7000);
+    EXPECT_EQ(ports.dialogs.messageTexts(), QStringList(kUnknownError));
+    EXPECT_EQ(ports.dialogs.messages[0].icon, MessageIcon::Exclamation);
+}
+
+TEST_F(ToolChannelTest, AToolThatSpeaksOnlyTheFourthTimeCountsAsFailed) {
+    ports.launcher.script = [this](const QString&) {
+        return ports.launcher.children.size() < 3 ? ChildScript{} : ChildScript{.output = {{"late answer"}}};
+    };
+    EXPECT_EQ(channel.Tarn_Command("query"), "");
+    EXPECT_EQ(ports.dialogs.messageTexts(), QStringList(kUnknownError));
+    EXPECT_EQ(frmMain.txtOutput.text.get(), "late answer");
+}
+
+TEST_F(ToolChannelTest, AToolThatSpeaksTheSecondTimeIsHeard) {
+    ports.launcher.script = [this](const QString&) {
+        return ports.launcher.children.empty() ? ChildScript{} : ChildScript{.output = {{"answer"}}};
+    };
+    EXPECT_EQ(channel.Tarn_Command("query"), "answer");
+    EXPECT_TRUE(ports.dialogs.messages.empty());
+}
+
+TEST_F(ToolChannelTest, AToolThatCannotBeStartedIsTriedFourTimes) {
+    int starts = 0;
+    ports.launcher.script = [&](const QString&) {
+        ++starts;
+        return std::nullopt;
+    };
+    EXPECT_EQ(channel.Tarn_Command("query"), "");
+    EXPECT_EQ(starts, 4);
+    EXPECT_EQ(ports.dialogs.messageTexts(), QStringList(kUnknownError));
+}
+
+TEST_F(ToolChannelTest, AtMidnightTheWaitLastsUntilTheClockHasCaughtUp) {
+    ports.clock.secondsAtZero = 24 * 60 * 60 - 2; // the clock starts at 1 s: one second to midnight
+    ports.pump.after(60 * 1000, [this] { ports.launcher.on("query", QByteArray("never asked")); });
+    ports.launcher.on("other", QByteArray("output of another run"));
+    ports.pump.after(3000, [this] { channel.Tarn_Command("other"); });
+    const qint64 start = ports.clock.now;
+    EXPECT_EQ(channel.Tarn_Command("query"), "");
+    EXPECT_GE(ports.clock.now - start, 3000) << "two seconds were not enough";
+    EXPECT_EQ(ports.launcher.children.size(), 2u);
+    EXPECT_TRUE(ports.dialogs.messages.empty());
+}
+
+TEST_F(ToolChannelTest, ABusyChannelIsWaitedForThroughTheAttempts) {
+    ports.launcher.on("inject", ChildScript{.output = {{"1%\r", 2500}}, .endsAtMs = 3000});
+    ports.launcher.on("query", QByteArray("answer"));
+    QString answer;
+    ports.pump.after(50, [&] {
+        EXPECT_FALSE(StdIO.Ready());
+        answer = channel.Tarn_Command("query");
+    });
+    channel.Tarn_Execute("inject");
+    // The inner call runs on top of the outer one, which cannot end below it: it gives up in the end.
+    EXPECT_EQ(answer, "");
+    EXPECT_EQ(ports.launcher.children.size(), 1u);
+    EXPECT_EQ(ports.dialogs.messageTexts(), QStringList(kUnknownError));
+}
+
+TEST_F(ToolChannelTest, ExecuteRunsASilentToolOnce) {
+    channel.Tarn_Execute("delete hdd1: Game");
+    EXPECT_EQ(ports.launcher.children.size(), 1u);
+    EXPECT_TRUE(ports.dialogs.messages.empty());
+    EXPECT_EQ(frmMain.txtCommand.text.get(), "delete hdd1: Game");
+}
+
+TEST_F(ToolChannelTest, ExecuteOnABusyChannelRunsNothing) {
+    ports.launcher.on("first", ChildScript{.endsAtMs = 500});
+    ports.pump.after(50, [&] { channel.Tarn_Execute("second"); });
+    channel.Tarn_Execute("first");
+    EXPECT_EQ(ports.launcher.children.size(), 1u);
+    ASSERT_EQ(ports.dialogs.messages.size(), 1u);
+    EXPECT_EQ(lastMessage(), "Unexpected error.");
+    EXPECT_EQ(ports.dialogs.messages[0].icon, MessageIcon::Stop);
+    EXPECT_EQ(frmMain.txtCommand.text.get(), "first");
+}
+
+TEST_F(ToolChannelTest, TheOutputBoxHoldsTheLatestChunkWithoutItsLineEnd) {
+    QStringList shown;
+    frmMain.txtOutput.text.changed.connect([&] { shown += frmMain.txtOutput.text.get(); });
+    ports.launcher.on("query", ChildScript{.output = {{"one\r\n", 0}, {"two\n", 100}, {"three\r", 200}}, .endsAtMs = 300});
+    channel.Tarn_Command("query");
+    EXPECT_EQ(shown, QStringList({"one", "two\n", "three\r"}));
+}
+
+TEST_F(ToolChannelTest, AChunkOfALineEndAloneEmptiesTheOutputBox) {
+    ports.launcher.on("query", ChildScript{.output = {{"text", 0}, {"\r\n", 100}}, .endsAtMs = 300});
+    channel.Tarn_Command("query");
+    EXPECT_EQ(frmMain.txtOutput.text.get(), "");
+}
+
+TEST_F(ToolChannelTest, DuringAnInstallBothElapsedTimesAreTheSame) {
+    shared.blnInstallRunning = true;
+    shared.lJobStartTick = ports.clock.tickCount();
+    shared.lQueueStartTick = 1;
+    ports.launcher.on("inject", ChildScript{.output = {{"5%\r", 61000}}, .endsAtMs = 61000});
+    channel.Tarn_Command("inject");
+    EXPECT_EQ(shared.frmStatus->lblCurrentElapsed.caption.get(), "00:01:01");
+    EXPECT_EQ(shared.frmStatus->lblOverallElapsed.caption.get(), "00:01:01");
+}
+
+TEST_F(ToolChannelTest, DuringAQueueTheOverallTimeCountsFromItsStart) {
+    shared.blnQueueRunning = true;
+    shared.lQueueStartTick = ports.clock.tickCount();
+    ports.clock.now += 3600 * 1000;
+    shared.lJobStartTick = ports.clock.tickCount();
+    ports.launcher.on("inject", ChildScript{.output = {{"5%\r", 2000}}, .endsAtMs = 2000});
+    channel.Tarn_Command("inject");
+    EXPECT_EQ(shared.frmStatus->lblCurrentElapsed.caption.get(), "00:00:02");
+    EXPECT_EQ(shared.frmStatus->lblOverallElapsed.caption.get(), "01:00:02");
+}
+
+TEST_F(ToolChannelTest, TheChunksOfAGameListAreWithheld) {
+    shared.blnReadTOC = true;
+    answerTocWith(kTwoGames);
+    const QString answer = channel.Tarn_Command("tarn_toc hdd1:");
+    EXPECT_EQ(frmMain.lstHD.count(), 0);
+    interpreter.ParseToolOutput(answer);
+    EXPECT_EQ(frmMain.lstHD.count(), 2);
+}
+
+TEST_F(ToolChannelTest, AnUnreadableProgressLineIsToldOnceWhenTheRunHasEnded) {
+    shared.blnInstallRunning = true;
+    ports.launcher.on("inject", ChildScript{.output = {{"5%, 1 min remaining\r", 0},
+                                                       {"6%, 1 min remaining\r", 100},
+                                                       {"50%\r", 200}},
+                                            .endsAtMs = 300});
+    bool toldDuringTheRun = false;
+    ports.pump.after(150, [&] { toldDuringTheRun = !ports.dialogs.messages.empty(); });
+    channel.Tarn_Command("inject");
+    EXPECT_FALSE(toldDuringTheRun);
+    EXPECT_EQ(ports.dialogs.messages.size(), 1u);
+    EXPECT_EQ(shared.frmStatus->picCurrent.tag.get(), "50");
+}
+
+TEST_F(ToolChannelTest, AMissingToolIsTold) {
+    EXPECT_TRUE(requireTool(shared));
+    removeTool();
+    EXPECT_FALSE(requireTool(shared));
+    EXPECT_EQ(lastMessage(),
+              "tarnwell.exe was not found. Place it in the same directory as this program and try again.");
+}

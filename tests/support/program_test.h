@@ -1,0 +1,63 @@
+#pragma once
+
+#include "app/program.h"
+#include "support/fake_ports.h"
+#include "support/gtest_qt.h"
+#include "ui/user_actions.h"
+
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+namespace tarnwell::test {
+
+/// The whole program over ports that reach nothing: tests click, type and look, as a user would.
+class ProgramTest : public testing::Test {
+protected:
+    ProgramTest() { putTool(); }
+
+    void start() { program.start(); }
+
+    void putTool() { writeFile("tarnwell.exe", "the simulated tool"); }
+    void removeTool() { QFile::remove(path("tarnwell.exe")); }
+    QString path(const QString& name) const { return ports.folders.folder + '/' + name; }
+    void writeFile(const QString& name, const QByteArray& bytes) {
+        QFile file(path(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+    void store(const QString& key, const QString& value) { program.shared().config.write(key, value); }
+    QString stored(const QString& key) { return program.shared().config.text(key); }
+
+    /// The commands that reached the tool so far, without its path.
+    QStringList commands() const {
+        QStringList all;
+        for (const QString& line : ports.launcher.commandLines())
+            all += line.mid(ports.folders.folder.size() + QString("/tarnwell.exe ").size());
+        return all;
+    }
+    QString lastMessage() const {
+        return ports.dialogs.messages.empty() ? QString() : ports.dialogs.messages.back().text;
+    }
+    static ChildScript silent() { return {}; }
+
+    /// What the tool says when nothing goes wrong.
+    void answerQueryWith(const QByteArray& lines) { ports.launcher.on("tarnwell.exe query", lines); }
+    void answerTocWith(const QByteArray& lines) { ports.launcher.on("tarnwell.exe tarn_toc", lines); }
+    void answerDiscInfoWith(const QByteArray& line) { ports.launcher.on("tarnwell.exe cdvd_info2", line); }
+
+    static inline const QByteArray kTwoDisks = "\thdd1:  114473MB, formatted Playstation 2 HDD\r\n"
+                                               "\thdd2:  38146MB, formatted Playstation 2 HDD\r\n";
+    static inline const QByteArray kTwoGames =
+        "type   size flags          dma startup      name\r\n"
+        "DVD  4193280KB                SLUS_200.71 @@@Ratchet\r\n"
+        "CD    716800KB +1             SLES_500.03 @@@Tekken Tag\r\n"
+        "total 114473MB, used 26712MB, available 87761MB\r\n";
+
+    FakePorts ports;
+    Program program{ports.ports()};
+    ui::FrmMain& frmMain = program.shared().frmMain;
+    ui::LoadedOnTouch<ui::FrmStatus>& frmStatus = program.shared().frmStatus;
+};
+
+} // namespace tarnwell::test
