@@ -11,8 +11,7 @@ constexpr double kMegabytesPerGigabyte = 1024;
 constexpr qsizetype kOpticalNameLength = 4;
 const char kNoGameDisks[] = "There were no game disks found in any of your optical drives.";
 
-/// The number between the device's name and the last "MB" of its line, with one blank on either side; none
-/// counts as 0.
+/// The number between the device's name and the last "MB" of its line, with a blank on either side, or 0.
 double sizeInGigabytes(const QString& line) {
     const qsizetype colon = InStr(line, ":");
     const qsizetype length = InStrRev(line, "MB") - colon - 3;
