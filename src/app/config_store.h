@@ -6,9 +6,10 @@ namespace tarnwell {
 
 class SystemFolders;
 
-/// The program's own settings, in `config.cfg` beside the program: an INI file with the one section `tarnwell`. Every
-/// reader goes to the file each time and every change is written at once, so a flag that is read in the middle of a
-/// run has its latest value. Failures are not reported: a store that cannot be written keeps its old values.
+/// The program's own settings, in `config.cfg` beside the program: an INI file with the one section
+/// `tarnwell`. Every reader goes to the file each time and every change is written at once, so a flag that is
+/// read in the middle of a run has its latest value. Failures are not reported: a store that cannot be
+/// written keeps its old values.
 class ConfigStore {
 public:
     explicit ConfigStore(const SystemFolders& folders) : folders_(folders) {}
@@ -32,12 +33,13 @@ private:
     const SystemFolders& folders_;
 };
 
-/// Whether the file system has a file that matches `path`; the last element may hold the wild cards * and ?. Folders
-/// do not count.
+/// Whether the file system has a file that matches `path`; the last element may hold the wild cards * and ?.
+/// Folders do not count.
 bool FileExists(const QString& path);
 
-/// Reads as the platform's own calls for INI files do: section and key without regard to case, blanks round both and
-/// one pair of quotes round the value do not count, the first match wins, at most 254 characters are read.
+/// Reads as the platform's own calls for INI files do: section and key without regard to case, blanks round
+/// both and one pair of quotes round the value do not count, the first match wins, at most 254 characters are
+/// read.
 QString ConfigRead(const QString& section, const QString& key, const QString& path);
 /// Replaces the file as a whole. Nothing happens if it cannot be written.
 void ConfigWrite(const QString& section, const QString& key, const QString& value, const QString& path);

@@ -8,10 +8,11 @@ namespace {
 
 bool staysOn(const QString& name) {
     static const QSet<QString> names = {
-        "chkOutput", "optInstall",   "optBrowse",  "optJobQueue", "cmdMinimize",  "fmMain",   "fmInstall",
-        "fmBrowse",  "fmJob",        "fmOutput",   "txtOutput",   "txtCommand",   "lblCommand", "fmNavigation",
-        "lstHD",     "lstJob",       "Label8",     "lblDiskSpace", "Frame1",      "lblIP",    "fmHDDSpace",
-        "lblSource", "lblGameInfo",  "lblCommandLine", "cmdControls"};
+        "chkOutput",  "optInstall", "optBrowse",    "optJobQueue",    "cmdMinimize",
+        "fmMain",     "fmInstall",  "fmBrowse",     "fmJob",          "fmOutput",
+        "txtOutput",  "txtCommand", "lblCommand",   "fmNavigation",   "lstHD",
+        "lstJob",     "Label8",     "lblDiskSpace", "Frame1",         "lblIP",
+        "fmHDDSpace", "lblSource",  "lblGameInfo",  "lblCommandLine", "cmdControls"};
     return names.contains(name);
 }
 

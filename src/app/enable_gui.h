@@ -6,8 +6,9 @@
 
 namespace tarnwell {
 
-/// Pauses the main window while long work runs, so that no second command can be started, and restores it. What only
-/// looks stays usable: the frames, the lists, the tool's output, the switches between the pages, hiding the window.
+/// Pauses the main window while long work runs, so that no second command can be started, and restores it.
+/// What only looks stays usable: the frames, the lists, the tool's output, the switches between the pages,
+/// hiding the window.
 class GuiSwitch {
 public:
     explicit GuiSwitch(ui::Form& frmMain) : frmMain_(frmMain) {}

@@ -4,9 +4,9 @@
 
 namespace tarnwell {
 
-/// Where every event of a window, the tray or a timer enters the program. A fault of a handler ends that handler and is
-/// told in one message box; the program goes on. Once the end of the program was asked for, interrupted handlers end
-/// here in silence.
+/// Where every event of a window, the tray or a timer enters the program. A fault of a handler ends that
+/// handler and is told in one message box; the program goes on. Once the end of the program was asked for,
+/// interrupted handlers end here in silence.
 class EventDispatcher {
 public:
     explicit EventDispatcher(Shared& shared) : shared_(shared) {}

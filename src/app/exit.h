@@ -5,7 +5,8 @@
 
 namespace tarnwell {
 
-/// The one way out, for the button, the tray menu and the close box. A running tool is neither waited for nor ended.
+/// The one way out, for the button, the tray menu and the close box. A running tool is neither waited for nor
+/// ended.
 class Exit {
 public:
     Exit(Shared& shared, cStdIO& StdIO);

@@ -7,8 +7,8 @@
 
 namespace tarnwell {
 
-/// The text of an INI file, in the system's 8-bit code page. Sections and keys are found without regard to case, and
-/// the first match wins; a line that is not changed keeps every byte, its line end too.
+/// The text of an INI file, in the system's 8-bit code page. Sections and keys are found without regard to
+/// case, and the first match wins; a line that is not changed keeps every byte, its line end too.
 class IniText {
 public:
     explicit IniText(const QByteArray& bytes);

@@ -19,9 +19,9 @@ struct Shared {
 
     QString title; ///< the application's title, which message boxes and the tray tip carry
 
-    qint16 intJobIndex = 0;      ///< the row of lstJob, counted from 1, that the queue is working on
-    qint32 lJobStartTick = 0;    ///< tick count at the start of the job
-    qint32 lQueueStartTick = 0;  ///< tick count at the start of the queue
+    qint16 intJobIndex = 0;         ///< the row of lstJob, counted from 1, that the queue is working on
+    qint32 lJobStartTick = 0;       ///< tick count at the start of the job
+    qint32 lQueueStartTick = 0;     ///< tick count at the start of the queue
     bool blnQueueRunning = false;   ///< a queued inject, extract or dump command is running
     bool blnInstallRunning = false; ///< an Install Now run is under way
     bool blnJobDone = false;        ///< the end of the running job has been seen

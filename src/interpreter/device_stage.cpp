@@ -11,9 +11,7 @@ constexpr double kMegabytesPerGigabyte = 1024;
 constexpr qsizetype kOpticalNameLength = 4;
 const char kNoGameDisks[] = "There were no game disks found in any of your optical drives.";
 
-/// The number between the device's name and the last "MB" of its line, with one blank on either side; none
-/// counts as 0.
-/// The number may touch its unit or keep a blank from it.
+/// The number between the device's name and the last "MB" of its line, which it may touch; none counts as 0.
 double sizeInGigabytes(const QString& line) {
     const qsizetype colon = InStr(line, ":");
     const qsizetype length = InStrRev(line, "MB") - colon - 2;

@@ -11,7 +11,7 @@ constexpr double kKilobytesPerMegabyte = 1024;
 constexpr double kKilobytesPerGigabyte = 1048576;
 constexpr qsizetype kUnitLength = 2;      ///< "KB"
 constexpr qsizetype kExtensionLength = 4; ///< ".iso"
-const QLatin1String kDualLayer("dual-layer");
+constexpr QLatin1String kDualLayer("dual-layer");
 
 const char kNoDisc[] = "There is either no disc in the drive or a PS2 game was not found on the disc.";
 const char kNotAGameDisc[] = "The disc in the selected drive is not a PS2 game disc.";
@@ -36,8 +36,8 @@ QString nameFromImage(const QString& path) {
     return file.left(qMax<qsizetype>(file.size() - kExtensionLength, 0));
 }
 
-/// The tool's words are type, size, name and startup file. A name with a blank in it is cut there; the user
-/// sees it and corrects it.
+/// The tool's words are type, size, name and startup file. A name with a blank in it is cut there, which the
+/// user sees and corrects.
 void fillInstallPage(ui::FrmMain& form, const QStringList& words) {
     form.cmbType.listIndex = ElementAt(words, 0) == QLatin1String("DVD") ? 1 : 0;
 

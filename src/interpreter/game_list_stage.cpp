@@ -1,5 +1,6 @@
 #include "interpreter/game_list_stage.h"
 
+#include "app/fault.h"
 #include "app/shared.h"
 #include "interpreter/free_space_stage.h"
 #include "interpreter/text_primitives.h"
@@ -73,8 +74,14 @@ Then ReadGameList(Shared& shared, const QString& text) {
 
     ClearFreeSpace(shared);
     shared.frmMain.lstHD.clear();
-    if (text.startsWith(QLatin1String("type")))
-        readTable(shared, text.split(QLatin1String("\r\n")));
+    try {
+        if (text.startsWith(QLatin1String("type")))
+            readTable(shared, text.split(QLatin1String("\r\n")));
+    } catch (const Fault&) {
+        // Left up, the flag would keep the output of every later job from being read.
+        shared.blnReadTOC = false;
+        throw;
+    }
     shared.blnReadTOC = false;
     return Then::NextStage;
 }

@@ -43,7 +43,7 @@ void OutputInterpreter::ParseToolOutput(const QString& text) {
     if (shared_.blnReadTOC && attempt([&] { return ReadGameList(shared_, text); }) == Then::Stop)
         return;
 
-    // The whole text has just been read as if it were one line; now each later line is, so that the last one
+    // The whole text has just been read as if it were one line. Now each later line is, so that the last
     // counts.
     if (!shared_.jobRunning())
         return;

@@ -13,7 +13,7 @@ namespace tarnwell {
 
 namespace {
 
-const QLatin1String kSpeedPrefix("Speed: ");
+constexpr QLatin1String kSpeedPrefix("Speed: ");
 
 /// The words between the first comma and the one in front of the speed.
 QString remainingTime(const QString& text) {
@@ -30,13 +30,13 @@ QString percentText(const QString& text) {
     return LTrim(text.left(text.indexOf('%')));
 }
 
-/// The share of the queue that is done. `finished` jobs too many to count are passed over.
+/// How much of the whole queue is done.
 qint32 overallPercent(const Shared& shared, double percent, int jobs) {
     qint16 finished = 0;
     try {
         finished = RoundToInt16(100.0 / jobs * (shared.intJobIndex - 1));
     } catch (const Fault&) {
-        // A queue of thousands of jobs still shows the progress of the running one.
+        // A row number far beyond the list: the running job alone is shown.
     }
     return static_cast<qint32>(std::floor(percent / jobs + finished));
 }

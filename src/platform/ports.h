@@ -8,18 +8,19 @@
 #include <memory>
 #include <optional>
 
-/// The program's doors to the outside world, one class a concern. The logic knows only these; real ones stand under
-/// platform/qt, platform/posix and platform/windows, and the tests bring their own.
+/// The program's doors to the outside world, one class a concern. The logic knows only these; real ones stand
+/// under platform/qt, platform/posix and platform/windows, and the tests bring their own.
 ///
-/// All calls are made on the one thread of the window events. The composition root owns the ports and keeps them until
-/// the program has ended.
+/// All calls are made on the one thread of the window events. The composition root owns the ports and keeps
+/// them until the program has ended.
 namespace tarnwell {
 
-/// Thrown by every port call that waits, on its return, once the end of the program was asked for: no later line of an
-/// interrupted handler may run. Only the dispatcher of events catches it.
+/// Thrown by every port call that waits, on its return, once the end of the program was asked for: no later
+/// line of an interrupted handler may run. Only the dispatcher of events catches it.
 struct ProgramEnded {};
 
-/// Lets windows, tray, sockets and timers live while a handler waits. Any event may be served inside these calls.
+/// Lets windows, tray, sockets and timers live while a handler waits. Any event may be served inside these
+/// calls.
 class EventPump {
 public:
     virtual ~EventPump() = default;
@@ -44,31 +45,32 @@ public:
     virtual double secondsSinceMidnight() const = 0;
 };
 
-/// A console program that was started hidden with pipes on its standard streams. Destroying this object neither ends
-/// the program nor waits for it; what the program still prints is then lost.
+/// A console program that was started hidden with pipes on its standard streams. Destroying this object
+/// neither ends the program nor waits for it; what the program still prints is then lost.
 class ChildProcess {
 public:
     virtual ~ChildProcess() = default;
     /// Whether the process lives. It may have printed more than was read so far either way.
     virtual bool running() = 0;
-    /// Takes what has arrived of its standard output and standard error, in the order of arrival, at most `maximum`
-    /// bytes; empty if nothing waits. Never blocks.
+    /// Takes what has arrived of its standard output and standard error, in the order of arrival, at most
+    /// `maximum` bytes; empty if nothing waits. Never blocks.
     virtual QByteArray read(qsizetype maximum) = 0;
     /// Writes to its standard input. Returns the number of bytes taken, -1 on failure.
     virtual qint64 write(const QByteArray& bytes) = 0;
     virtual qint64 processId() const = 0;
-    /// Sends the interrupt that Ctrl+C at its console would send. Returns at once; the program may live on for as
-    /// long as it likes.
+    /// Sends the interrupt that Ctrl+C at its console would send. Returns at once; the program may live on
+    /// for as long as it likes.
     virtual void interrupt() = 0;
 };
 
 class ProcessLauncher {
 public:
     virtual ~ProcessLauncher() = default;
-    /// Starts a command line: the program's path, which may hold blanks and is not quoted, a blank, the arguments.
-    /// On Windows the text goes to the system as it is. Elsewhere the program is the shortest beginning, up to a
-    /// blank, that names a file, and the rest is split as a Windows program would split it: double quotes group, two
-    /// of them are an empty argument, nothing is escaped. Null if the program cannot be started.
+    /// Starts a command line: the program's path, which may hold blanks and is not quoted, a blank, the
+    /// arguments. On Windows the text goes to the system as it is. Elsewhere the program is the shortest
+    /// beginning, up to a blank, that names a file, and the rest is split as a Windows program would split
+    /// it: double quotes group, two of them are an empty argument, nothing is escaped. Null if the program
+    /// cannot be started.
     virtual std::unique_ptr<ChildProcess> start(const QString& commandLine) = 0;
 };
 
@@ -85,9 +87,9 @@ enum class MessageIcon { Exclamation, Stop };
 
 /// What the open dialog offers: the filter is a list of "words|pattern|" pairs.
 struct OpenFileRequest {
-    QString title{};      ///< empty: the platform's own
+    QString title{}; ///< empty: the platform's own
     QString filter{};
-    QString folder{};     ///< empty: the dialog's own start folder
+    QString folder{}; ///< empty: the dialog's own start folder
     bool mustExist = false;
 };
 
@@ -131,15 +133,16 @@ public:
         int roundTripMs = 0; ///< meaningful with status 0; may be 0
     };
     virtual ~Ping() = default;
-    /// Sends one packet to an IPv4 address (in host byte order) and waits for its reply without pumping events.
+    /// Sends one packet to an IPv4 address (in host byte order) and waits for its reply without pumping
+    /// events.
     virtual Reply sendEcho(quint32 address, const QByteArray& payload, int timeoutMs) = 0;
 };
 
 class SystemFolders {
 public:
     virtual ~SystemFolders() = default;
-    /// The folder that the program's file is in, in the platform's own form, without a separator at its end unless it
-    /// is a root.
+    /// The folder that the program's file is in, in the platform's own form, without a separator at its end
+    /// unless it is a root.
     virtual QString programFolder() const = 0;
     /// The system's command interpreter, as a path.
     virtual QString commandInterpreter() const = 0;

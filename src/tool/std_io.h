@@ -11,8 +11,8 @@
 namespace tarnwell {
 
 /// Runs one console program at a time as a hidden child and hands on what it prints while it runs. A call of
-/// ExecuteCommand returns when the program has gone, and pumps events all the while: the windows live on, and any
-/// handler may run in the middle of a run.
+/// ExecuteCommand returns when the program has gone, and pumps events all the while: the windows live on, and
+/// any handler may run in the middle of a run.
 class cStdIO {
 public:
     explicit cStdIO(Shared& shared) : shared_(shared) {}
@@ -34,17 +34,17 @@ public:
     bool Ready() const { return ready_; }
     QString version() const;
 
-    /// Runs `Command`, or the stored command line again if it is empty. Returns all that the program printed; nothing
-    /// if another run is under way, if there is nothing to run, or if it cannot be started.
+    /// Runs `Command`, or the stored command line again if it is empty. Returns all that the program printed;
+    /// nothing if another run is under way, if there is nothing to run, or if it cannot be started.
     QString ExecuteCommand(const QString& Command);
     /// Ends the run at its next pass and asks the program to close.
     void Cancel();
-    /// Writes a line to the program's standard input. Returns the number of bytes written, without the line end; -1
-    /// on failure.
+    /// Writes a line to the program's standard input. Returns the number of bytes written, without the line
+    /// end; -1 on failure.
     qint32 WriteData(const QString& strData);
 
-    /// Sends the running program its interrupt. The run ends at once; the program may live on for a while. Does
-    /// nothing when no program runs, or when it has been told already.
+    /// Sends the running program its interrupt. The run ends at once; the program may live on for a while.
+    /// Does nothing when no program runs, or when it has been told already.
     void interrupt();
     /// Whether a program that was sent its interrupt still lives.
     bool stoppedToolLives();

@@ -87,8 +87,9 @@ void ToolChannel::interpret(const QString& chunk) {
     try {
         interpreter_.ParseToolOutput(chunk);
     } catch (const Fault& fault) {
-        // The answer to a query is read once more as a whole, and fails there, before its caller. The output of a job
-        // is not: the run goes on, and the first line that could not be read is told when it has ended.
+        // The answer to a query is read once more as a whole, and fails there, before its caller. The output
+        // of a job is not: the run goes on, and the first line that could not be read is told when it has
+        // ended.
         if (ofJob && !unreadableLine_)
             unreadableLine_ = fault.text();
     }
@@ -105,7 +106,8 @@ void ToolChannel::reportUnreadableLine() {
 bool requireTool(Shared& shared) {
     if (shared.config.toolExists())
         return true;
-    shared.message("tarnwell.exe was not found. Place it in the same directory as this program and try again.");
+    shared.message(
+        "tarnwell.exe was not found. Place it in the same directory as this program and try again.");
     return false;
 }
 

@@ -7,15 +7,16 @@
 
 namespace tarnwell {
 
-/// The doors through which commands reach the tool and its output comes back. It is busy while the tool runs; there is
-/// no queue of commands. Above it nobody deals with processes, below it nobody knows the tool's language.
+/// The doors through which commands reach the tool and its output comes back. It is busy while the tool runs;
+/// there is no queue of commands. Above it nobody deals with processes, below it nobody knows the tool's
+/// language.
 class ToolChannel {
 public:
     ToolChannel(Shared& shared, cStdIO& StdIO, OutputInterpreter& interpreter);
 
-    /// Runs a command that must answer: a tool that stays silent is run up to four times, two seconds apart, before
-    /// the user is told. Returns all that the tool printed, nothing after a failure. Waits for a busy channel through
-    /// the same attempts.
+    /// Runs a command that must answer: a tool that stays silent is run up to four times, two seconds apart,
+    /// before the user is told. Returns all that the tool printed, nothing after a failure. Waits for a busy
+    /// channel through the same attempts.
     QString Tarn_Command(const QString& strCommand);
 
     /// Runs a command once, whether it prints anything or not. Tells the user if the channel is busy.

@@ -8,7 +8,8 @@ Control::Control(Form& form, Kind controlKind, const QString& controlName, const
     : name(controlName), kind(controlKind), container(declared.in), accessibleName(declared.accessibleName),
       enabled(*this, declared.enabled), visible(*this, declared.visible), toolTip(*this, declared.toolTip),
       tag(*this), left(*this, declared.left), top(*this, declared.top), width(*this, declared.width),
-      height(*this, declared.height), font(*this, declared.font), foreColor(*this), backColor(*this), form_(form) {
+      height(*this, declared.height), font(*this, declared.font), foreColor(*this), backColor(*this),
+      form_(form) {
     form.add(*this);
 }
 

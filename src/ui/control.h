@@ -54,7 +54,8 @@ struct Declared {
     QString caption{};           ///< a doubled ampersand shows as one
     QString text{};
     QString toolTip{};
-    QString accessibleName{}; ///< what a screen reader calls a control without a caption or a label of its own
+    QString
+        accessibleName{}; ///< what a screen reader calls a control without a caption or a label of its own
     bool enabled = true;
     bool visible = true;
     int value = 0; ///< check boxes: 0, 1, 2 (greyed); option buttons: 1 is chosen

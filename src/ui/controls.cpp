@@ -35,7 +35,8 @@ void OptionButton::clearOthers() {
 }
 
 CheckBox::CheckBox(Form& form, const QString& controlName, const Declared& declared)
-    : Control(form, Kind::CheckBox, controlName, declared), caption(*this, declared.caption), value(*this, declared.value) {
+    : Control(form, Kind::CheckBox, controlName, declared), caption(*this, declared.caption),
+      value(*this, declared.value) {
     value.assigned = [this](bool changes) {
         if (changes)
             Click();
@@ -44,8 +45,8 @@ CheckBox::CheckBox(Form& form, const QString& controlName, const Declared& decla
 
 TextBox::TextBox(Form& form, const QString& controlName, const Declared& declared)
     : Control(form, Kind::TextBox, controlName, declared), text(*this, declared.text), selectionStart(*this),
-      selectionLength(*this), caretVisible(*this, true), readOnly(declared.readOnly), multiLine(declared.multiLine),
-      centred(declared.centred) {
+      selectionLength(*this), caretVisible(*this, true), readOnly(declared.readOnly),
+      multiLine(declared.multiLine), centred(declared.centred) {
     text.assigned = [this](bool changes) {
         if (changes)
             Change();
@@ -84,7 +85,8 @@ void ComboBox::reset() {
 }
 
 PictureBox::PictureBox(Form& form, const QString& controlName, const Declared& declared)
-    : Control(form, Kind::PictureBox, controlName, declared), scaleWidth(*this, declared.width), drawing(*this) {}
+    : Control(form, Kind::PictureBox, controlName, declared), scaleWidth(*this, declared.width),
+      drawing(*this) {}
 
 Timer::Timer(Form& form, const QString& controlName, const Declared& declared)
     : Control(form, Kind::Timer, controlName, declared), interval(*this) {}

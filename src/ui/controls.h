@@ -67,7 +67,8 @@ public:
 class ComboBox : public Control {
 public:
     ComboBox(Form& form, const QString& name, const Declared& declared = {});
-    /// -1 is no choice. Every assignment fires Click, also of the same index. An index past the end chooses nothing.
+    /// -1 is no choice. Every assignment fires Click, also of the same index. An index past the end chooses
+    /// nothing.
     Property<int> listIndex;
     Event<> Click;
     Signal<> itemsChanged;
@@ -86,8 +87,8 @@ private:
 
 class PictureBox : public Control {
 public:
-    /// A drawing in a picture: a text in its centre and a box that is filled from the left edge up to `filledTo`, in
-    /// units of the picture's scale.
+    /// A drawing in a picture: a text in its centre and a box that is filled from the left edge up to
+    /// `filledTo`, in units of the picture's scale.
     struct Drawing {
         QString text{};
         double filledTo = 0;

@@ -35,8 +35,8 @@ public:
     void load(); ///< runs Load unless the window is loaded
     void show(); ///< loads it if need be
     void hide();
-    /// Closes the window: every control goes back to its declared start state. Returns false if a handler refused.
-    /// A call from inside its own Unload handler does nothing.
+    /// Closes the window: every control goes back to its declared start state. Returns false if a handler
+    /// refused. A call from inside its own Unload handler does nothing.
     bool unload();
 
     /// The control collection, in the order of declaration.

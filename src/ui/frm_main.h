@@ -7,8 +7,8 @@
 
 namespace tarnwell::ui {
 
-/// The main window: the device at the left, the install page or the game list at the right, the job queue over both,
-/// the tool's activity below. The declarations are the window's control table.
+/// The main window: the device at the left, the install page or the game list at the right, the job queue
+/// over both, the tool's activity below. The declarations are the window's control table.
 class FrmMain : public Form {
 public:
     FrmMain();
@@ -19,15 +19,17 @@ public:
     static constexpr int kHddEntries = 5;
     static constexpr int kFlags = 8;
 
-    Frame fmMain{*this, "fmMain",
+    Frame fmMain{*this,
+                 "fmMain",
                  {.caption = "Playstation 2 Device", .left = 120, .top = 0, .width = 4815, .height = 2295}};
     Frame fmDevice{*this, "fmDevice", {.in = &fmMain}};
     OptionButton optLAN{*this, "optLAN", {.in = &fmDevice, .caption = "LAN - Networked PS2", .value = 1}};
     OptionButton optLocal{*this, "optLocal", {.in = &fmDevice, .caption = "Locally connected PS2 HDD"}};
     Label lblIP{*this, "lblIP", {.in = &fmDevice, .caption = "  IP:"}};
-    TextBox txtIP{*this,
-                  "txtIP",
-                  {.in = &fmDevice, .text = "192.168.0.10", .accessibleName = "IP address of the PS2 console"}};
+    TextBox txtIP{
+        *this,
+        "txtIP",
+        {.in = &fmDevice, .text = "192.168.0.10", .accessibleName = "IP address of the PS2 console"}};
     ComboBox cmbHD{*this, "cmbHD", {.in = &fmDevice, .accessibleName = "Local PS2 disk", .visible = false}};
     Button cmdAttach{*this,
                      "cmdAttach",
@@ -40,13 +42,13 @@ public:
         "cmdShutdownPS2",
         {.in = &fmDevice, .caption = "Shutdown PS2", .toolTip = "Shutdown the PS2 console."}};
     Frame fmHDDSpace{*this, "fmHDDSpace", {.in = &fmMain, .caption = "HDD Space Information"}};
-    PictureBox picDiskSpace{*this,
-                            "picDiskSpace",
-                            {.in = &fmHDDSpace, .accessibleName = "Used disk space", .width = 4335}};
+    PictureBox picDiskSpace{
+        *this, "picDiskSpace", {.in = &fmHDDSpace, .accessibleName = "Used disk space", .width = 4335}};
     Label lblDiskSpace{*this, "lblDiskSpace", {.in = &fmHDDSpace, .caption = "(no active device)"}};
 
-    Frame fmNavigation{
-        *this, "fmNavigation", {.caption = "Navigation", .left = 120, .top = 2280, .width = 4815, .height = 975}};
+    Frame fmNavigation{*this,
+                       "fmNavigation",
+                       {.caption = "Navigation", .left = 120, .top = 2280, .width = 4815, .height = 975}};
     OptionButton optInstall{*this, "optInstall", {.in = &fmNavigation, .caption = "Install", .value = 1}};
     OptionButton optBrowse{*this, "optBrowse", {.in = &fmNavigation, .caption = "Browse, Backup, Delete"}};
     OptionButton optJobQueue{*this, "optJobQueue", {.in = &fmNavigation, .caption = "Job Queue"}};
@@ -71,8 +73,7 @@ public:
                    "fmOutput",
                    {.caption = "Tarnwell Activity", .left = 120, .top = 3360, .width = 9735, .height = 2535}};
     Label lblCommand{*this, "lblCommand", {.in = &fmOutput, .caption = "Command:"}};
-    TextBox txtCommand{
-        *this, "txtCommand", {.in = &fmOutput, .accessibleName = "Command", .readOnly = true}};
+    TextBox txtCommand{*this, "txtCommand", {.in = &fmOutput, .accessibleName = "Command", .readOnly = true}};
     TextBox txtOutput{*this,
                       "txtOutput",
                       {.in = &fmOutput,
@@ -87,16 +88,14 @@ public:
         *this,
         "optISO",
         {.in = &fmInstall, .caption = "ISO File", .toolTip = "Install game from an ISO file.", .value = 1}};
-    OptionButton optOptical{*this,
-                            "optOptical",
-                            {.in = &fmInstall,
-                             .caption = "Optical Drive",
-                             .toolTip = "Install game from an optical drive."}};
-    TextBox txtISO{*this, "txtISO", {.in = &fmInstall, .accessibleName = "ISO file", .readOnly = true}};
-    Button cmdISO{
+    OptionButton optOptical{
         *this,
-        "cmdISO",
-        {.in = &fmInstall, .caption = "Browse", .toolTip = "Browse and select an ISO file."}};
+        "optOptical",
+        {.in = &fmInstall, .caption = "Optical Drive", .toolTip = "Install game from an optical drive."}};
+    TextBox txtISO{*this, "txtISO", {.in = &fmInstall, .accessibleName = "ISO file", .readOnly = true}};
+    Button cmdISO{*this,
+                  "cmdISO",
+                  {.in = &fmInstall, .caption = "Browse", .toolTip = "Browse and select an ISO file."}};
     ComboBox cmbOptical{
         *this, "cmbOptical", {.in = &fmInstall, .accessibleName = "Optical drive", .enabled = false}};
     Label lblSource{*this, "lblSource", {.in = &fmInstall, .caption = "Source"}};
@@ -158,10 +157,9 @@ public:
                     .multiSelect = true,
                     .editableLabels = true,
                     .columns = {{"Game Title"}, {"Startup"}, {"Size"}, {"Type"}, {"Flags"}}}};
-    Button cmdDelete{
-        *this,
-        "cmdDelete",
-        {.in = &fmBrowse, .caption = "Delete", .toolTip = "Delete game.", .enabled = false}};
+    Button cmdDelete{*this,
+                     "cmdDelete",
+                     {.in = &fmBrowse, .caption = "Delete", .toolTip = "Delete game.", .enabled = false}};
     Button cmdSaveList{*this,
                        "cmdSaveList",
                        {.in = &fmBrowse,
@@ -188,18 +186,13 @@ public:
                          .enabled = false}};
 
     Frame fmJob{*this, "fmJob", {.caption = "Job Queue", .visible = false, .width = 9735, .height = 3255}};
-    ListView lstJob{*this,
-                    "lstJob",
-                    {.in = &fmJob,
-                     .accessibleName = "Jobs",
-                     .columns = {{"Result"},
-                                 {"Task"},
-                                 {"Source"},
-                                 {"Destination"},
-                                 {"Name"},
-                                 {"Startup"},
-                                 {"Type"},
-                                 {"Flags"}}}};
+    ListView lstJob{
+        *this,
+        "lstJob",
+        {.in = &fmJob,
+         .accessibleName = "Jobs",
+         .columns = {
+             {"Result"}, {"Task"}, {"Source"}, {"Destination"}, {"Name"}, {"Startup"}, {"Type"}, {"Flags"}}}};
     Button cmdStart{*this, "cmdStart", {.in = &fmJob, .caption = "Start Job Queue", .enabled = false}};
     Button cmdRemove{*this, "cmdRemove", {.in = &fmJob, .caption = "Remove Job", .enabled = false}};
     Button cmdClear{*this, "cmdClear", {.in = &fmJob, .caption = "Clear Jobs", .enabled = false}};

@@ -4,8 +4,8 @@
 
 namespace tarnwell::ui {
 
-/// The window that follows a running job. Its controls are the model of the running work: the interpreter writes
-/// them, the tray tip and everyone else who wants to know reads them.
+/// The window that follows a running job. Its controls are the model of the running work: the interpreter
+/// writes them, the tray tip and everyone else who wants to know reads them.
 class FrmStatus : public Form {
 public:
     FrmStatus();
@@ -18,7 +18,9 @@ public:
 
     Frame fmCurrent{*this, "fmCurrent", {.caption = "Current Job"}};
     PictureBox picCurrent{
-        *this, "picCurrent", {.in = &fmCurrent, .accessibleName = "Completion of the current job", .width = 4335}};
+        *this,
+        "picCurrent",
+        {.in = &fmCurrent, .accessibleName = "Completion of the current job", .width = 4335}};
     Label lblCurrentElapsed{*this, "lblCurrentElapsed", {.in = &fmCurrent, .caption = "00:00:00"}};
     Label lblJob{*this, "lblJob", {.in = &fmCurrent, .caption = ""}};
     Label lblSpeed{*this, "lblSpeed", {.in = &fmCurrent, .caption = "Speed: n/a"}};

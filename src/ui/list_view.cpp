@@ -3,8 +3,8 @@
 namespace tarnwell::ui {
 
 ListView::ListView(Form& form, const QString& controlName, const Declared& declared)
-    : Control(form, Kind::ListView, controlName, declared), columns(*this, declared.columns), selectedItem(*this, -1),
-      multiSelect(declared.multiSelect), editableLabels(declared.editableLabels) {}
+    : Control(form, Kind::ListView, controlName, declared), columns(*this, declared.columns),
+      selectedItem(*this, -1), multiSelect(declared.multiSelect), editableLabels(declared.editableLabels) {}
 
 void ListView::append(Row row) {
     rows_.push_back(std::move(row));

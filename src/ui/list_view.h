@@ -4,7 +4,8 @@
 
 namespace tarnwell::ui {
 
-/// A table of rows. A row is known by its position, counted from 0 here; the program's own job numbers count from 1.
+/// A table of rows. A row is known by its position, counted from 0 here; the program's own job numbers count
+/// from 1.
 class ListView : public Control {
 public:
     struct Row {
@@ -17,7 +18,8 @@ public:
     ListView(Form& form, const QString& name, const Declared& declared = {});
 
     Property<std::vector<Column>> columns;
-    Property<int> selectedItem; ///< the row that has the focus, -1 for none; it can be deselected all the same
+    Property<int>
+        selectedItem; ///< the row that has the focus, -1 for none; it can be deselected all the same
     const bool multiSelect, editableLabels;
 
     int count() const { return static_cast<int>(rows_.size()); }

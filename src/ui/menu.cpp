@@ -6,8 +6,7 @@ namespace tarnwell::ui {
 
 MenuEntry::MenuEntry(PopupMenu& menu, const QString& entryName, const QString& entryCaption, bool isCheckable)
     : name(entryName), checkable(isCheckable), caption(*this, entryCaption), enabled(*this, true),
-      visible(*this, true), checked(*this),
-      menu_(menu) {
+      visible(*this, true), checked(*this), menu_(menu) {
     menu.add(*this);
 }
 

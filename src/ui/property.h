@@ -33,12 +33,13 @@ private:
     std::vector<Resettable*> properties_;
 };
 
-/// A value of a control. Assigning a different value tells the listeners of `changed`; assigning an equal one tells
-/// nobody. `reset` goes back to the value that the control was declared with.
+/// A value of a control. Assigning a different value tells the listeners of `changed`; assigning an equal one
+/// tells nobody. `reset` goes back to the value that the control was declared with.
 template <class T>
 class Property final : public Resettable {
 public:
-    explicit Property(PropertyOwner& owner, T declared = {}) : declared_(declared), value_(std::move(declared)) {
+    explicit Property(PropertyOwner& owner, T declared = {})
+        : declared_(declared), value_(std::move(declared)) {
         owner.add(*this);
     }
     Property(const Property&) = delete;
@@ -52,8 +53,8 @@ public:
         return *this;
     }
 
-    /// Returns whether the value changed. After the listeners, `assigned` is told of every assignment, equal or not:
-    /// this is where a control raises the event that goes with the property.
+    /// Returns whether the value changed. After the listeners, `assigned` is told of every assignment, equal
+    /// or not: this is where a control raises the event that goes with the property.
     bool set(T value) {
         const bool changes = setQuietly(std::move(value));
         if (assigned)

@@ -7,8 +7,8 @@
 
 namespace tarnwell::ui {
 
-/// Tells any number of listeners that something changed. Listeners are called in the order of connection; one that
-/// connects during an emission is first called by the next one. Connections last as long as the signal.
+/// Tells any number of listeners that something changed. Listeners are called in the order of connection; one
+/// that connects during an emission is first called by the next one. Connections last as long as the signal.
 template <class... Arguments>
 class Signal {
 public:
@@ -28,8 +28,8 @@ private:
     std::vector<std::shared_ptr<Listener>> listeners_;
 };
 
-/// A slot to which one handler is attached: `cmdAttach.Click = [this] { ... };`. Raising it without a handler does
-/// nothing.
+/// A slot to which one handler is attached: `cmdAttach.Click = [this] { ... };`. Raising it without a handler
+/// does nothing.
 template <class... Arguments>
 class Event {
 public:

@@ -3,8 +3,9 @@
 #include "ui/form.h"
 #include "ui/list_view.h"
 
-/// What a user does to a control. The view calls these for real clicks and keys, tests for theirs. A control that the
-/// user cannot reach ignores them and the call returns false. Handlers run through the window's dispatcher.
+/// What a user does to a control. The view calls these for real clicks and keys, tests for theirs. A control
+/// that the user cannot reach ignores them and the call returns false. Handlers run through the window's
+/// dispatcher.
 namespace tarnwell::ui {
 
 bool click(Button& button);

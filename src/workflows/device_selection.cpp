@@ -111,8 +111,7 @@ void DeviceSelection::refresh() {
 }
 
 void DeviceSelection::readGameList() {
-    interpreter_.ParseToolOutput(
-        channel_.Tarn_Command(GameListCommand(ActiveDeviceLong(shared_.frmMain))));
+    interpreter_.ParseToolOutput(channel_.Tarn_Command(GameListCommand(ActiveDeviceLong(shared_.frmMain))));
 }
 
 void DeviceSelection::shutDownConsole() {

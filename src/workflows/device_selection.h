@@ -5,9 +5,9 @@
 
 namespace tarnwell {
 
-/// The choice between a networked console and a local disk, the loading of its game list, and the shutdown of the
-/// console. A device is active from a refresh on, until the mode or the address changes or the console is shut down;
-/// a mere selection in the disk list leaves the old game list on view.
+/// The choice between a networked console and a local disk, the loading of its game list, and the shutdown of
+/// the console. A device is active from a refresh on, until the mode or the address changes or the console is
+/// shut down; a mere selection in the disk list leaves the old game list on view.
 class DeviceSelection {
 public:
     DeviceSelection(Shared& shared, ToolChannel& channel, OutputInterpreter& interpreter);

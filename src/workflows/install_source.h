@@ -5,7 +5,8 @@
 
 namespace tarnwell {
 
-/// The install page: an image file or an optical drive, what the tool says about it, and the compatibility flags.
+/// The install page: an image file or an optical drive, what the tool says about it, and the compatibility
+/// flags.
 class InstallSource {
 public:
     InstallSource(Shared& shared, ToolChannel& channel, OutputInterpreter& interpreter);

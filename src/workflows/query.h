@@ -5,11 +5,13 @@
 
 namespace tarnwell {
 
-/// Says that the next output of the tool answers a question, for as long as the interpreter leaves the flag standing.
-/// If the answer cannot be read, the question is dropped: later output must not be taken for it.
+/// Says that the next output of the tool answers a question, for as long as the interpreter leaves the flag
+/// standing. If the answer cannot be read, the question is dropped: later output must not be taken for it.
 class AwaitedAnswer {
 public:
-    explicit AwaitedAnswer(bool& flag) : flag_(flag), exceptions_(std::uncaught_exceptions()) { flag_ = true; }
+    explicit AwaitedAnswer(bool& flag) : flag_(flag), exceptions_(std::uncaught_exceptions()) {
+        flag_ = true;
+    }
     ~AwaitedAnswer() {
         if (std::uncaught_exceptions() > exceptions_)
             flag_ = false;
@@ -34,8 +36,8 @@ private:
     ui::Form& form_;
 };
 
-/// Asks the tool for the PC's disks and drives and returns when the answer has been read. `flag` says which lists the
-/// answer fills.
+/// Asks the tool for the PC's disks and drives and returns when the answer has been read. `flag` says which
+/// lists the answer fills.
 void RunQuery(bool& flag, Shared& shared, ToolChannel& channel, OutputInterpreter& interpreter);
 
 } // namespace tarnwell

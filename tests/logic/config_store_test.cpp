@@ -111,7 +111,8 @@ TEST_F(ConfigStoreTest, ReadsNumbersLeniently) {
 }
 
 TEST_F(ConfigStoreTest, AWriteKeepsWhatItDoesNotChange) {
-    put("; my notes\r\n[other]\nIP=9.9.9.9\r\n\r\n[tarnwell]\r\n;IP=commented\r\nip = old\nno equals sign\r\n\r\n[last]\r\nx=1");
+    put("; my notes\r\n[other]\nIP=9.9.9.9\r\n\r\n[tarnwell]\r\n;IP=commented\r\nip = old\nno equals "
+        "sign\r\n\r\n[last]\r\nx=1");
     config.write("IP", "1.2.3.4");
     EXPECT_EQ(file(), "; my notes\r\n[other]\nIP=9.9.9.9\r\n\r\n[tarnwell]\r\n;IP=commented\r\nip =1.2.3.4\n"
                       "no equals sign\r\n\r\n[last]\r\nx=1");

@@ -22,10 +22,11 @@ QStringList enabledControls(const ui::FrmMain& frmMain) {
 TEST(EnableGUI, LeavesOnlyLookingAndSwitchingOn) {
     ui::FrmMain frmMain;
     GuiSwitch(frmMain).EnableGUI(false);
-    EXPECT_EQ(enabledControls(frmMain).join(' '),
-              "fmMain lblIP fmHDDSpace lblDiskSpace fmNavigation optInstall optBrowse optJobQueue chkOutput "
-              "cmdMinimize fmOutput lblCommand txtCommand txtOutput fmInstall lblSource lblGameInfo fmBrowse lstHD "
-              "fmJob lstJob cmdControls lblCommandLine");
+    EXPECT_EQ(
+        enabledControls(frmMain).join(' '),
+        "fmMain lblIP fmHDDSpace lblDiskSpace fmNavigation optInstall optBrowse optJobQueue chkOutput "
+        "cmdMinimize fmOutput lblCommand txtCommand txtOutput fmInstall lblSource lblGameInfo fmBrowse lstHD "
+        "fmJob lstJob cmdControls lblCommandLine");
 }
 
 TEST(EnableGUI, RestoresWhatWasOnBefore) {

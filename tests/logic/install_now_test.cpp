@@ -149,8 +149,9 @@ TEST_F(InstallNow, AGameThatNeedsAnotherUnitIsRefusedWithTheSizeItNeeds) {
     setSpace("4200", "4097");
     ui::click(frmMain.cmdInstall);
     EXPECT_EQ(installCommand(), "");
-    EXPECT_EQ(lastMessage(), "You do not have enough available space on your hard-drive to install this game."
-                             "\r\n\r\nTo install this game you need 4224MB and you only have 4200MB available.");
+    EXPECT_EQ(lastMessage(),
+              "You do not have enough available space on your hard-drive to install this game."
+              "\r\n\r\nTo install this game you need 4224MB and you only have 4200MB available.");
     EXPECT_TRUE(frmMain.shown());
 }
 
@@ -280,15 +281,15 @@ TEST_F(InstallNow, ASecondCancelDoesNothingMore) {
     ports.pump.after(2000, [&] { ui::click(frmStatus->cmdStop); });
     ports.pump.after(3000, [&] { ui::click(frmStatus->cmdStop); });
     ui::click(frmMain.cmdInstall);
-    const auto& install = *std::find_if(ports.launcher.children.begin(), ports.launcher.children.end(),
-                                        [](const auto& child) { return child->commandLine.contains("inject"); });
+    const auto& install =
+        *std::find_if(ports.launcher.children.begin(), ports.launcher.children.end(),
+                      [](const auto& child) { return child->commandLine.contains("inject"); });
     EXPECT_EQ(install->interrupts, 1);
 }
 
 TEST_F(InstallNow, CancelAfterAHundredPercentDoesNotWaitButStillSkipsTheCompletionActions) {
     store("TurnOffPC", "1");
-    answerInstallWith(
-        {.output = {{"100%\r", 100}}, .endsAtMs = 100000000, .heedsInterrupt = false});
+    answerInstallWith({.output = {{"100%\r", 100}}, .endsAtMs = 100000000, .heedsInterrupt = false});
     ports.pump.after(500, [&] { ui::click(frmStatus->cmdStop); });
     ui::click(frmMain.cmdInstall);
     EXPECT_EQ(ports.power.shutDowns, 0);

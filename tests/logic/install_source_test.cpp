@@ -4,8 +4,10 @@ namespace tarnwell::test {
 
 namespace {
 
-const QByteArray kOneDrive = "\tcd0:  no disc\r\n\tcd1:  4482 MB\r\nvia SPTI:\r\n\tD: no disc: none\r\n\tE: disc 4482 MB\r\n";
-const QByteArray kTwoDrives = "\tcd0:  700 MB\r\n\tcd1:  4482 MB\r\nvia SPTI:\r\n\tD: disc 700 MB\r\n\tE: disc 4482 MB\r\n";
+const QByteArray kOneDrive =
+    "\tcd0:  no disc\r\n\tcd1:  4482 MB\r\nvia SPTI:\r\n\tD: no disc: none\r\n\tE: disc 4482 MB\r\n";
+const QByteArray kTwoDrives =
+    "\tcd0:  700 MB\r\n\tcd1:  4482 MB\r\nvia SPTI:\r\n\tD: disc 700 MB\r\n\tE: disc 4482 MB\r\n";
 const QByteArray kNoDrives = "\tcd0:  no disc\r\n";
 const QByteArray kDvd = "DVD 4193280KB \"RATCHET\" \"SLUS_200.71\"\r\n";
 

@@ -192,6 +192,7 @@ TEST_F(FreeSpaceStage, NeverReadsTheToolsOwnFigureOfWhatIsAvailable) {
 
 TEST_F(FreeSpaceStage, RefusesADiskOfNoSize) {
     EXPECT_THROW(list("type\r\ntotal 0MB, used 0MB, available 0MB\r\n"), Fault);
+    EXPECT_FALSE(shared.blnReadTOC);
 }
 
 TEST_F(FreeSpaceStage, RefusesASummaryWithoutNumbers) {

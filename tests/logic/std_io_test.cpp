@@ -1,6 +1,6 @@
-#include "tool/std_io.h"
 #include "support/fake_ports.h"
 #include "support/gtest_qt.h"
+#include "tool/std_io.h"
 #include "tool/stop_tool.h"
 
 #include <gtest/gtest.h>
@@ -16,7 +16,9 @@ struct StdIOTest : testing::Test {
         StdIO.Complete = [this] { events += "Complete"; };
         StdIO.CancelSuccess = [this] { events += "CancelSuccess"; };
         StdIO.CancelFail = [this] { events += "CancelFail"; };
-        StdIO.Error = [this](int number, const QString& text) { events += QString::number(number) + ' ' + text; };
+        StdIO.Error = [this](int number, const QString& text) {
+            events += QString::number(number) + ' ' + text;
+        };
     }
 
     void program(const ChildScript& script) {
@@ -113,8 +115,8 @@ TEST_F(StdIOTest, ASecondCommandDuringARunIsRefusedAndTheFirstGoesOn) {
     EXPECT_EQ(StdIO.ExecuteCommand("tool"), "answer");
     EXPECT_EQ(second, "");
     EXPECT_EQ(StdIO.CommandLine(), "tool");
-    EXPECT_EQ(events, QStringList({"400 Not ready to process another command.", "402 Not ready to change settings.",
-                                   "Complete"}));
+    EXPECT_EQ(events, QStringList({"400 Not ready to process another command.",
+                                   "402 Not ready to change settings.", "Complete"}));
 }
 
 TEST_F(StdIOTest, CancelEndsTheRunAtTheNextPassAndKeepsWhatWasRead) {

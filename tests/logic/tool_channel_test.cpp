@@ -1,13 +1,14 @@
-#include "tool/tool_channel.h"
 #include "support/program_test.h"
+#include "tool/tool_channel.h"
 
 using namespace tarnwell;
 using namespace tarnwell::test;
 
 namespace {
 
-const QString kUnknownError = "An unknown error has occurred. Please try restarting the program and make sure to "
-                              "close tarnwell.exe by pressing CTRL+ALT+DEL.";
+const QString kUnknownError =
+    "An unknown error has occurred. Please try restarting the program and make sure to "
+    "close tarnwell.exe by pressing CTRL+ALT+DEL.";
 
 struct ToolChannelTest : ProgramTest {
     Shared shared{ports.ports()};
@@ -121,7 +122,8 @@ TEST_F(ToolChannelTest, ExecuteOnABusyChannelRunsNothing) {
 TEST_F(ToolChannelTest, TheOutputBoxHoldsTheLatestChunkWithoutItsLineEnd) {
     QStringList shown;
     frmMain.txtOutput.text.changed.connect([&] { shown += frmMain.txtOutput.text.get(); });
-    ports.launcher.on("query", ChildScript{.output = {{"one\r\n", 0}, {"two\n", 100}, {"three\r", 200}}, .endsAtMs = 300});
+    ports.launcher.on(
+        "query", ChildScript{.output = {{"one\r\n", 0}, {"two\n", 100}, {"three\r", 200}}, .endsAtMs = 300});
     channel.Tarn_Command("query");
     EXPECT_EQ(shown, QStringList({"one", "two\n", "three\r"}));
 }
@@ -164,10 +166,10 @@ TEST_F(ToolChannelTest, TheChunksOfAGameListAreWithheld) {
 
 TEST_F(ToolChannelTest, AnUnreadableProgressLineIsToldOnceWhenTheRunHasEnded) {
     shared.blnInstallRunning = true;
-    ports.launcher.on("inject", ChildScript{.output = {{"5%, 1 min remaining\r", 0},
-                                                       {"6%, 1 min remaining\r", 100},
-                                                       {"50%\r", 200}},
-                                            .endsAtMs = 300});
+    ports.launcher.on(
+        "inject",
+        ChildScript{.output = {{"5%, 1 min remaining\r", 0}, {"6%, 1 min remaining\r", 100}, {"50%\r", 200}},
+                    .endsAtMs = 300});
     bool toldDuringTheRun = false;
     ports.pump.after(150, [&] { toldDuringTheRun = !ports.dialogs.messages.empty(); });
     channel.Tarn_Command("inject");

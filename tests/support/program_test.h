@@ -48,11 +48,10 @@ protected:
 
     static inline const QByteArray kTwoDisks = "\thdd1:  114473MB, formatted Playstation 2 HDD\r\n"
                                                "\thdd2:  38146MB, formatted Playstation 2 HDD\r\n";
-    static inline const QByteArray kTwoGames =
-        "type   size flags          dma startup      name\r\n"
-        "DVD  4193280KB                SLUS_200.71 @@@Ratchet\r\n"
-        "CD    716800KB +1             SLES_500.03 @@@Tekken Tag\r\n"
-        "total 114473MB, used 26712MB, available 87761MB\r\n";
+    static inline const QByteArray kTwoGames = "type   size flags          dma startup      name\r\n"
+                                               "DVD  4193280KB                SLUS_200.71 @@@Ratchet\r\n"
+                                               "CD    716800KB +1             SLES_500.03 @@@Tekken Tag\r\n"
+                                               "total 114473MB, used 26712MB, available 87761MB\r\n";
 
     FakePorts ports;
     Program program{ports.ports()};

@@ -1,6 +1,6 @@
-#include "ui/list_view.h"
 #include "support/gtest_qt.h"
 #include "ui/form.h"
+#include "ui/list_view.h"
 
 #include <gtest/gtest.h>
 

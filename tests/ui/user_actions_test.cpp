@@ -1,5 +1,5 @@
-#include "ui/user_actions.h"
 #include "support/gtest_qt.h"
+#include "ui/user_actions.h"
 
 #include <gtest/gtest.h>
 
