@@ -297,7 +297,7 @@ TEST_F(InstallNow, CancelAfterAHundredPercentDoesNotWaitButStillSkipsTheCompleti
 }
 
 TEST_F(InstallNow, CancelBeforeTheFirstOutputStartsTheToolAnewTwoSecondsLater) {
-    answerInstallWith({.output = {{"1%\r", 5000}}, .endsAtMs = 10000, .farewellTakesMs = 500});
+    answerInstallWith({.output = {{"1%\r", 5000}}, .endsAtMs = 10000, .farewell = {}});
     ports.pump.after(1000, [&] { ui::click(frmStatus->cmdStop); });
     ports.pump.after(8500, [&] { ui::click(frmStatus->cmdStop); });
     ui::click(frmMain.cmdInstall);
