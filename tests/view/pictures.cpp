@@ -1,10 +1,10 @@
 // Writes pictures of the windows into the folder that is named as the argument. QT_SCALE_FACTOR chooses the
 // scale.
 
-#include "tests/view/sample_states.h"
 #include "ui/qt/application_icon.h"
 #include "ui/qt/main_window_view.h"
 #include "ui/qt/status_window_view.h"
+#include "view/sample_states.h"
 
 #include <QApplication>
 #include <QDir>

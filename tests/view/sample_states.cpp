@@ -1,4 +1,4 @@
-#include "tests/view/sample_states.h"
+#include "view/sample_states.h"
 
 #include <array>
 

@@ -16,7 +16,9 @@ namespace {
 /// some room beside the text.
 class PushButton final : public QPushButton {
 public:
-    using QPushButton::QPushButton;
+    explicit PushButton(QWidget* parent) : QPushButton(parent) {
+        setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    }
 
     QSize sizeHint() const override { return QPushButton::sizeHint().expandedTo(minimumSizeHint()); }
 

@@ -1,14 +1,17 @@
 #include "ui/qt/bind_controls.h"
+#include "ui/qt/captions.h"
 #include "ui/qt/event_watcher.h"
 #include "ui/qt/list_rows_model.h"
 #include "ui/user_actions.h"
 
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPersistentModelIndex>
 #include <QStyledItemDelegate>
 #include <QTimer>
+#include <QToolTip>
 #include <QTreeView>
 
 namespace tarnwell::view {
@@ -24,6 +27,15 @@ public:
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
         constexpr int kRoomBetweenRows = 4;
         return QStyledItemDelegate::sizeHint(option, index) + QSize(0, kRoomBetweenRows);
+    }
+
+    /// A text that its column cuts short is told in full by a tool tip.
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) override {
+        const bool isCut = sizeHint(option, index).width() > view->visualRect(index).width();
+        QToolTip::showText(event->globalPos(), isCut ? plainToolTip(index.data().toString()) : QString(),
+                           view);
+        return true;
     }
 
     void setModelData(QWidget* editor, QAbstractItemModel*, const QModelIndex& index) const override {

@@ -11,7 +11,7 @@ QWidget* bindFrame(Binding& binding, ui::Frame& frame, QWidget* parent) {
         return new QWidget(parent);
     auto* box = new QGroupBox(parent);
     // Pages lie over one another, so nothing may shine through.
-    box->setAutoFillBackground(true);
+    box->setAutoFillBackground(!frame.container);
     binding.follow(frame.caption.changed, *box,
                    [&frame, box] { box->setTitle(escapedCaption(frame.caption)); });
     return box;

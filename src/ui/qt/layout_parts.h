@@ -12,7 +12,7 @@ inline constexpr int kFrameMargin = 8; ///< pixels between a frame and its contr
 
 /// A row of controls, from the leading edge.
 QHBoxLayout* row(std::initializer_list<QWidget*> widgets);
-/// A row of buttons of one size that fill its width.
+/// A row of buttons that fill its width, of one size as far as their texts allow.
 QHBoxLayout* equalButtons(std::initializer_list<QWidget*> buttons);
 /// A heading with a line that runs from it to the other edge.
 QHBoxLayout* heading(QWidget* label, QWidget* line);

@@ -62,7 +62,7 @@ void MainWindowLayout::layOutWindow(QWidget& window) {
 
 void MainWindowLayout::layOutDevice() {
     const auto& widget = *this;
-    auto* sources = row({widget(form_.optLAN), widget(form_.optLocal)});
+    QHBoxLayout* sources = row({widget(form_.optLAN), widget(form_.optLocal)});
     sources->insertStretch(1);
 
     // The list of local disks takes the place of the address.
@@ -92,7 +92,7 @@ void MainWindowLayout::layOutDevice() {
 
 void MainWindowLayout::layOutNavigation() {
     const auto& widget = *this;
-    auto* pages = row({widget(form_.optInstall), widget(form_.optBrowse), widget(form_.optJobQueue)});
+    QHBoxLayout* pages = row({widget(form_.optInstall), widget(form_.optBrowse), widget(form_.optJobQueue)});
     pages->insertStretch(1);
     pages->insertStretch(3);
 
@@ -102,8 +102,8 @@ void MainWindowLayout::layOutNavigation() {
     navigation->addWidget(widget(form_.Line3));
     navigation->addWidget(widget(form_.chkOutput));
     navigation->addWidget(widget(form_.Line4));
-    navigation->addLayout(row({widget(form_.cmdSettings), widget(form_.cmdAbout), widget(form_.cmdMinimize),
-                               widget(form_.cmdExit)}));
+    navigation->addLayout(equalButtons({widget(form_.cmdSettings), widget(form_.cmdAbout),
+                                        widget(form_.cmdMinimize), widget(form_.cmdExit)}));
 }
 
 void MainWindowLayout::layOutInstall() {
@@ -154,17 +154,19 @@ void MainWindowLayout::layOutBrowse() {
     const auto& widget = *this;
     QVBoxLayout* browse = column(widget(form_.fmBrowse));
     browse->addWidget(widget(form_.lstHD), 1);
-    browse->addLayout(row({widget(form_.cmdDelete), widget(form_.cmdSaveList), widget(form_.cmdBackupPC),
-                           widget(form_.cmdBackupPS2), widget(form_.cmdBackupHDD)}));
+    browse->addLayout(
+        equalButtons({widget(form_.cmdDelete), widget(form_.cmdSaveList), widget(form_.cmdBackupPC),
+                      widget(form_.cmdBackupPS2), widget(form_.cmdBackupHDD)}));
 }
 
 void MainWindowLayout::layOutJobs() {
     const auto& widget = *this;
     makeVertical(widget(form_.Line5));
     makeVertical(widget(form_.Line6));
-    auto* buttons = row({widget(form_.cmdStart), widget(form_.Line5), widget(form_.cmdRemove),
-                         widget(form_.cmdClear), widget(form_.Line6), widget(form_.cmdControls)});
-    buttons->insertStretch(5);
+    QHBoxLayout* buttons = equalButtons(
+        {widget(form_.cmdStart), widget(form_.cmdRemove), widget(form_.cmdClear), widget(form_.cmdControls)});
+    buttons->insertWidget(1, widget(form_.Line5));
+    buttons->insertWidget(4, widget(form_.Line6));
 
     QVBoxLayout* jobs = column(widget(form_.fmJob));
     jobs->addWidget(widget(form_.lstJob), 1);
