@@ -9,6 +9,7 @@ public:
     explicit TwipScale(double pixelsPerTwip) : pixelsPerTwip_(pixelsPerTwip) {}
     int pixels(int twips) const;
     int twips(int pixels) const;
+    double pixelsPerTwip() const { return pixelsPerTwip_; }
 
 private:
     double pixelsPerTwip_;

@@ -1,0 +1,30 @@
+#include "ui/qt/bind_controls.h"
+#include "ui/user_actions.h"
+
+#include <QComboBox>
+
+namespace tarnwell::view {
+
+QWidget* bindComboBox(Binding& binding, ui::ComboBox& list, QWidget* parent) {
+    constexpr int kCharactersAtLeast = 7;
+    auto* combo = new QComboBox(parent);
+    // The entries are read from disks; they must not widen the window.
+    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    combo->setMinimumContentsLength(kCharactersAtLeast);
+    const auto showChoice = [&list, combo] { combo->setCurrentIndex(list.listIndex); };
+    binding.follow(list.itemsChanged, *combo, [&list, combo, showChoice] {
+        combo->clear();
+        combo->addItems(list.items());
+        showChoice();
+    });
+    binding.listen(list.listIndex.changed, *combo, showChoice);
+    QObject::connect(combo, &QComboBox::activated, combo, [&binding, &list, showChoice](int index) {
+        if (binding.showing() || ui::choose(list, index))
+            return;
+        const Binding::Showing guard(binding);
+        showChoice();
+    });
+    return combo;
+}
+
+} // namespace tarnwell::view

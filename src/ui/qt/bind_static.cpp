@@ -1,0 +1,36 @@
+#include "ui/qt/bind_controls.h"
+#include "ui/qt/captions.h"
+
+#include <QGroupBox>
+#include <QLabel>
+
+namespace tarnwell::view {
+
+QWidget* bindFrame(Binding& binding, ui::Frame& frame, QWidget* parent) {
+    if (frame.caption.get().isEmpty())
+        return new QWidget(parent);
+    auto* box = new QGroupBox(parent);
+    // Pages lie over one another, so nothing may shine through.
+    box->setAutoFillBackground(!frame.container);
+    binding.follow(frame.caption.changed, *box,
+                   [&frame, box] { box->setTitle(escapedCaption(frame.caption)); });
+    return box;
+}
+
+QWidget* bindLabel(Binding& binding, ui::Label& label, QWidget* parent) {
+    auto* widget = new QLabel(parent);
+    widget->setTextFormat(Qt::PlainText);
+    binding.follow(label.caption.changed, *widget, [&label, widget] {
+        // Only a label that names another widget reads shortcut marks.
+        widget->setText(widget->buddy() ? escapedCaption(label.caption) : shownCaption(label.caption));
+    });
+    return widget;
+}
+
+QWidget* bindLine(QWidget* parent) {
+    auto* line = new QFrame(parent);
+    line->setFrameStyle(QFrame::HLine | QFrame::Sunken);
+    return line;
+}
+
+} // namespace tarnwell::view

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "ui/frm_status.h"
+#include "ui/qt/control_binder.h"
+#include "ui/qt/window_layout.h"
+
+namespace tarnwell::view {
+
+class StatusWindowLayout final : public WindowLayout {
+public:
+    StatusWindowLayout(ui::FrmStatus& form, ControlBinder& controls, QWidget& window);
+
+    double neededPixelsPerTwip() const override;
+    void scaleTo(const TwipScale&) override {}
+    Heights showHeight(int formHeight) override { return {formHeight, formHeight}; }
+
+private:
+    void layOutOverall();
+    void layOutCurrent();
+    void layOutWindow();
+
+    QWidget* operator()(const ui::Control& control) const { return controls_.widget(control); }
+
+    ui::FrmStatus& form_;
+    ControlBinder& controls_;
+    QWidget& window_;
+};
+
+} // namespace tarnwell::view

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "ui/frm_main.h"
+#include "ui/frm_status.h"
+
+#include <QFont>
+#include <QPalette>
+
+/// The windows as the program's logic would leave them at moments that are worth a look.
+namespace tarnwell::view::samples {
+
+void start(ui::FrmMain& form);
+void localDisk(ui::FrmMain& form);
+void games(ui::FrmMain& form, int count);
+void discRead(ui::FrmMain& form);
+void jobs(ui::FrmMain& form);
+void activity(ui::FrmMain& form);
+void jobRunning(ui::FrmStatus& form);
+
+QPalette darkPalette();
+
+} // namespace tarnwell::view::samples

@@ -1,0 +1,172 @@
+#include "ui/qt/application_icon.h"
+#include "view/view_fixture.h"
+
+#include <QGroupBox>
+
+namespace tarnwell::view {
+
+class Window : public MainWindow {};
+
+TEST_F(Window, TakesCaptionAndVisibilityFromTheForm) {
+    EXPECT_EQ(window.windowTitle(), " Tarnwell GUI v1.5 by mirelane");
+    EXPECT_TRUE(window.isVisible());
+    form.hide();
+    EXPECT_FALSE(window.isVisible());
+    form.show();
+    EXPECT_TRUE(window.isVisible());
+}
+
+TEST_F(Window, ClosingAsksTheForm) {
+    bool refuse = true;
+    form.Unload = [&](bool& cancel) { cancel = refuse; };
+    EXPECT_FALSE(window.close());
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_TRUE(form.loaded());
+    refuse = false;
+    window.close();
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_FALSE(form.loaded());
+}
+
+TEST_F(Window, TallHeightUncoversTheActivity) {
+    const int shortHeight = window.height();
+    const auto& activity = widget<QGroupBox>(form.fmOutput);
+    EXPECT_FALSE(activity.isVisible());
+    form.height = ui::FrmMain::kTallHeight;
+    serveEvents();
+    EXPECT_TRUE(activity.isVisible());
+    const int taller = window.currentScale().pixels(ui::FrmMain::kTallHeight - ui::FrmMain::kShortHeight);
+    EXPECT_NEAR(window.height(), shortHeight + taller, 1);
+    form.height = ui::FrmMain::kShortHeight;
+    EXPECT_EQ(window.height(), shortHeight);
+    EXPECT_FALSE(activity.isVisible());
+}
+
+TEST_F(Window, FramesStandInTheirProportions) {
+    const TwipScale& scale = window.currentScale();
+    const auto& left = widget<QGroupBox>(form.fmMain);
+    const auto& right = widget<QGroupBox>(form.fmInstall);
+    EXPECT_NEAR(left.x(), 0, 1);
+    EXPECT_EQ(left.width(), scale.pixels(form.fmMain.width));
+    EXPECT_NEAR(right.width(), scale.pixels(form.fmInstall.width), 2);
+    EXPECT_NEAR(right.mapTo(&window, QPoint()).x(), scale.pixels(form.fmInstall.left), 2);
+    EXPECT_NEAR(right.height(), scale.pixels(form.fmInstall.height), 2);
+}
+
+TEST_F(Window, ResizingByTheUserIsReportedAndGrowsTheLists) {
+    const int before = widget<QGroupBox>(form.fmInstall).width();
+    const int height = form.height;
+    window.resize(window.width() + 150, window.height());
+    serveEvents();
+    EXPECT_EQ(form.width, window.currentScale().twips(window.width()) + 90);
+    EXPECT_EQ(form.height, height);
+    EXPECT_EQ(widget<QGroupBox>(form.fmInstall).width(), before + 150);
+}
+
+TEST_F(Window, MovingGoesBothWays) {
+    form.left = 3000;
+    form.top = 1500;
+    serveEvents();
+    EXPECT_EQ(window.pos(), QPoint(window.currentScale().pixels(3000), window.currentScale().pixels(1500)));
+    EXPECT_EQ(form.left, 3000) << "rounding to pixels must not come back";
+    window.move(50, 60);
+    serveEvents();
+    EXPECT_EQ(form.left, window.currentScale().twips(50));
+    EXPECT_EQ(form.top, window.currentScale().twips(60));
+}
+
+TEST_F(Window, MinimisingGoesBothWays) {
+    form.windowState = ui::WindowState::Minimised;
+    EXPECT_TRUE(window.isMinimized());
+    window.showNormal();
+    serveEvents();
+    EXPECT_EQ(form.windowState, ui::WindowState::Normal);
+    window.showMinimized();
+    serveEvents();
+    EXPECT_EQ(form.windowState, ui::WindowState::Minimised);
+}
+
+TEST_F(Window, WithoutATrayHidingMinimises) {
+    int restored = 0;
+    window.hideMinimises = true;
+    window.restored = [&] {
+        ++restored;
+        form.show();
+    };
+    form.hide();
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_TRUE(window.isMinimized());
+    window.showNormal();
+    serveEvents();
+    EXPECT_EQ(restored, 1);
+    EXPECT_TRUE(form.visible);
+    EXPECT_FALSE(window.isMinimized());
+}
+
+TEST_F(Window, WithoutATrayShowingBringsItBack) {
+    int restored = 0;
+    window.hideMinimises = true;
+    window.restored = [&] { ++restored; };
+    form.hide();
+    form.show();
+    serveEvents();
+    EXPECT_FALSE(window.isMinimized());
+    EXPECT_EQ(restored, 0);
+}
+
+TEST_F(Window, WithoutATrayTheEndStillHides) {
+    window.hideMinimises = true;
+    window.close();
+    EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(Window, ShowsTheHourglass) {
+    form.mousePointer = ui::MousePointer::Hourglass;
+    EXPECT_EQ(window.cursor().shape(), Qt::WaitCursor);
+    form.mousePointer = ui::MousePointer::Default;
+    EXPECT_EQ(window.cursor().shape(), Qt::ArrowCursor);
+}
+
+TEST_F(Window, ControlsTellWhereTheyStand) {
+    EXPECT_GT(form.cmdCompat.left, 0);
+    EXPECT_GT(form.cmdCompat.top, 0);
+    EXPECT_GT(form.cmdCompat.height, 0);
+    EXPECT_EQ(form.cmdAttach.width, 1215) << "a width that the program gives is not overwritten";
+}
+
+TEST_F(Window, AttachButtonHasTheWidthThatTheProgramGives) {
+    samples::localDisk(form);
+    serveEvents();
+    EXPECT_EQ(window.findChild<QWidget*>("cmdAttach")->width(), window.currentScale().pixels(2175));
+}
+
+TEST(StatusWindow, IsMadeWhenItFirstOpens) {
+    ui::FrmStatus form;
+    const StatusWindowView view(form);
+    form.load();
+    EXPECT_FALSE(view.window());
+    form.show();
+    ASSERT_TRUE(view.window());
+    EXPECT_TRUE(view.window()->isVisible());
+    EXPECT_EQ(view.window()->windowTitle(), " Status");
+}
+
+TEST(StatusWindow, RefusedCloseMinimisesIt) {
+    ui::FrmStatus form;
+    const StatusWindowView view(form);
+    samples::jobRunning(form);
+    form.Unload = [&](bool& cancel) {
+        cancel = true;
+        form.windowState = ui::WindowState::Minimised;
+    };
+    view.window()->close();
+    EXPECT_TRUE(view.window()->isMinimized());
+}
+
+TEST(ApplicationIcon, HasAllSizesFromTrayToDesktop) {
+    const QIcon icon = applicationIcon();
+    for (const int size : {16, 20, 24, 32, 48, 64, 128, 256})
+        EXPECT_EQ(icon.pixmap(size).size(), QSize(size, size));
+}
+
+} // namespace tarnwell::view
