@@ -1,0 +1,99 @@
+#include "behaviour.h"
+
+#include "failure.h"
+#include "key_value_file.h"
+
+#include <algorithm>
+#include <limits>
+#include <sstream>
+
+namespace simulator {
+
+namespace {
+
+constexpr int kUsualSplitPauseMs = 60;
+
+int smallNumber(const KeyValues& values, const char* key, int otherwise = 0) {
+    return static_cast<int>(
+        std::min<long long>(values.number(key, otherwise), std::numeric_limits<int>::max()));
+}
+
+std::optional<int> optionalNumber(const KeyValues& values, const char* key) {
+    return parseNumber(values.text(key)) ? std::optional(smallNumber(values, key)) : std::nullopt;
+}
+
+std::vector<std::size_t> numberList(const std::string& text) {
+    std::vector<std::size_t> numbers;
+    std::istringstream words(text);
+    for (std::string word; std::getline(words, word, ',');) {
+        if (const auto number = parseNumber(word))
+            numbers.push_back(static_cast<std::size_t>(*number));
+    }
+    std::sort(numbers.begin(), numbers.end());
+    return numbers;
+}
+
+} // namespace
+
+Behaviour Behaviour::read(const std::filesystem::path& file, const std::string& command) {
+    KeyValues values;
+    for (const auto& [heading, section] : parseSections(readWholeFile(file))) {
+        if (heading.empty() || heading == command)
+            values.merge(section);
+    }
+    Behaviour behaviour;
+    behaviour.startDelayMs = smallNumber(values, "start_delay_ms");
+    behaviour.delayMsPerStep = smallNumber(values, "delay_ms_per_step");
+    behaviour.bytesPerSecond = static_cast<std::uint64_t>(values.number("bytes_per_second"));
+    behaviour.notice = values.text("notice");
+    behaviour.noiseBytes = smallNumber(values, "binary_noise");
+    behaviour.floodLines = smallNumber(values, "flood_lines");
+    behaviour.failure = failureText(trimmed(values.text("fail")));
+    behaviour.failAtPercent = smallNumber(values, "fail_at_percent");
+    behaviour.hangAtPercent = optionalNumber(values, "hang_at_percent");
+    behaviour.exitAtPercent = optionalNumber(values, "exit_at_percent");
+    behaviour.exitCode = optionalNumber(values, "exit_code");
+    behaviour.ignoresInterrupt = values.yes("ignore_interrupt");
+    behaviour.poweroffLasts = values.yes("poweroff_lasts");
+    behaviour.silent = values.yes("silent");
+    if (const auto bytes = parseNumber(values.text("cut_after")))
+        behaviour.cutAfter = static_cast<std::size_t>(*bytes);
+    behaviour.splitAfter = numberList(values.text("split_after"));
+    behaviour.splitPauseMs = smallNumber(values, "split_pause_ms", kUsualSplitPauseMs);
+    return behaviour;
+}
+
+std::string Behaviour::explanation() {
+    return R"(# What the simulated tool does besides its work. Read at every start of the tool; remove a "# " to switch a line on.
+# Lines in front of the first [command] count for every command, lines behind it for that command alone.
+# Percents: inject, extract and dump pass every number from 0 to 100; the other commands pass 0 and 100.
+
+# delay_ms_per_step = 100         a pause at each percent of a copy
+# bytes_per_second = 3670016      how fast a copy goes
+# start_delay_ms = 2000           a pause before anything happens
+
+# notice = Checking the disk...   a line in front of all other output
+# binary_noise = 512              that many bytes of every value, in front of all other output
+# flood_lines = 100000            that many lines (of progress, for a copy) in front of all other output
+
+# fail = no_space                 a failure: connection_closed, refused, connection_attempt, interrupted, unsupported,
+#                                 file_exists, no_space, disk_full, parameter, spti, not_ready, not_ps2_disc,
+#                                 bad_isofs, not_ps2_hdd, or a text of your own
+# fail_at_percent = 45            when it fails; 0 if nothing is said
+# hang_at_percent = 45            from then on nothing happens until the interrupt comes
+# exit_at_percent = 45            the tool is gone at once, without a word or any tidying
+# exit_code = 3                   what the tool returns at its end, however it went
+# ignore_interrupt = yes          the tool works on through Ctrl+C
+# poweroff_lasts = yes            poweroff sets "answers = no" in the console's console.ini
+
+# silent = yes                    works, but prints nothing
+# cut_after = 200                 prints no more than so many bytes
+# split_after = 7,100             a pause in the output behind so many bytes
+# split_pause_ms = 60             how long that pause is
+
+# [inject_dvd]
+# delay_ms_per_step = 300
+)";
+}
+
+} // namespace simulator

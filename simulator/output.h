@@ -1,0 +1,33 @@
+// What the tool prints, byte for byte and without a buffer.
+#pragma once
+
+#include "os.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace simulator {
+
+struct Behaviour;
+
+class Output {
+public:
+    explicit Output(const Behaviour& behaviour);
+
+    /// Ended by carriage return and line feed.
+    void line(const std::string& text);
+    /// Ended by a carriage return alone, so that the next one overwrites it on a console.
+    void progress(const std::string& text);
+    /// A line on the error stream.
+    void failure(const std::string& text);
+    void raw(std::string_view bytes, os::Stream stream = os::Stream::Output);
+
+private:
+    const Behaviour& behaviour_;
+    std::size_t written_ = 0;
+    std::size_t nextSplit_ = 0;
+};
+
+} // namespace simulator
