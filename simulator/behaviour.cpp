@@ -64,32 +64,47 @@ Behaviour Behaviour::read(const std::filesystem::path& file, const std::string& 
 }
 
 std::string Behaviour::explanation() {
-    return R"(# What the simulated tool does besides its work. Read at every start of the tool; remove a "# " to switch a line on.
-# Lines in front of the first [command] count for every command, lines behind it for that command alone.
+    return R"(# What the simulated tool does besides its work. Read at every start of the tool; take the "# " from a line with "="
+# to switch it on. Lines in front of the first [command] count for every command, lines behind it for that one alone.
 # Percents: inject, extract and dump pass every number from 0 to 100; the other commands pass 0 and 100.
 
-# delay_ms_per_step = 100         a pause at each percent of a copy
-# bytes_per_second = 3670016      how fast a copy goes
-# start_delay_ms = 2000           a pause before anything happens
+# A pause at each percent of a copy.
+# delay_ms_per_step = 100
+# How fast a copy goes.
+# bytes_per_second = 3670016
+# A pause before anything happens.
+# start_delay_ms = 2000
 
-# notice = Checking the disk...   a line in front of all other output
-# binary_noise = 512              that many bytes of every value, in front of all other output
-# flood_lines = 100000            that many lines (of progress, for a copy) in front of all other output
+# A line in front of all other output.
+# notice = Checking the disk...
+# So many bytes of every value in front of all other output.
+# binary_noise = 512
+# So many lines (of progress, for a copy) in front of all other output.
+# flood_lines = 100000
 
-# fail = no_space                 a failure: connection_closed, refused, connection_attempt, interrupted, unsupported,
-#                                 file_exists, no_space, disk_full, parameter, spti, not_ready, not_ps2_disc,
-#                                 bad_isofs, not_ps2_hdd, or a text of your own
-# fail_at_percent = 45            when it fails; 0 if nothing is said
-# hang_at_percent = 45            from then on nothing happens until the interrupt comes
-# exit_at_percent = 45            the tool is gone at once, without a word or any tidying
-# exit_code = 3                   what the tool returns at its end, however it went
-# ignore_interrupt = yes          the tool works on through Ctrl+C
-# poweroff_lasts = yes            poweroff sets "answers = no" in the console's console.ini
+# A failure: connection_closed, refused, connection_attempt, interrupted, unsupported, file_exists, no_space, disk_full,
+# parameter, spti, not_ready, not_ps2_disc, bad_isofs, not_ps2_hdd, or a text of your own.
+# fail = no_space
+# When it fails; 0 if nothing is said.
+# fail_at_percent = 45
+# From then on nothing happens until the interrupt comes.
+# hang_at_percent = 45
+# The tool is gone at once, without a word or any tidying.
+# exit_at_percent = 45
+# What the tool returns at its end, however it went.
+# exit_code = 3
+# The tool works on through Ctrl+C.
+# ignore_interrupt = yes
+# A powered off console no longer answers: poweroff sets "answers = no" in its console.ini.
+# poweroff_lasts = yes
 
-# silent = yes                    works, but prints nothing
-# cut_after = 200                 prints no more than so many bytes
-# split_after = 7,100             a pause in the output behind so many bytes
-# split_pause_ms = 60             how long that pause is
+# Works, but prints nothing.
+# silent = yes
+# Prints no more than so many bytes.
+# cut_after = 200
+# A pause in the output behind so many bytes, and how long it is.
+# split_after = 7,100
+# split_pause_ms = 60
 
 # [inject_dvd]
 # delay_ms_per_step = 300

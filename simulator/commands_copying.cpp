@@ -27,13 +27,16 @@ struct InstalledGame {
     Game game;
 };
 
-/// "name@device": a game that is already on a disk. A file or drive of that very name goes first.
+/// "name@device": a game that is already on a disk. A file of that very name goes first.
 std::optional<InstalledGame> installedGame(World& world, const std::string& source) {
     const auto at = source.rfind('@');
     if (at == std::string::npos)
         return std::nullopt;
     const std::string device = source.substr(at + 1);
     if (!isLocalDiskName(device) && !isNetworkAddress(device))
+        return std::nullopt;
+    std::error_code ignored;
+    if (std::filesystem::exists(os::pathFromText(source), ignored))
         return std::nullopt;
     Disk disk = world.device(device);
     Game game = disk.get(source.substr(0, at));
@@ -42,18 +45,12 @@ std::optional<InstalledGame> installedGame(World& world, const std::string& sour
 
 /// Opens what is to be installed, and fills in what the game takes over from it.
 ByteSource openSource(World& world, const std::string& source, Game& game) {
-    const auto path = os::pathFromText(source);
-    std::error_code ignored;
-    if (!std::filesystem::exists(path, ignored)) {
-        if (const auto drive = world.drive(source))
-            return drive->open();
-        if (const auto installed = installedGame(world, source)) {
-            game.startup = installed->game.startup;
-            game.flags = installed->game.flags;
-            return installed->disk.open(installed->game);
-        }
-    }
-    return {path, source};
+    const auto installed = installedGame(world, source);
+    if (!installed)
+        return world.openDisc(source);
+    game.startup = installed->game.startup;
+    game.flags = installed->game.flags;
+    return installed->disk.open(installed->game);
 }
 
 void inject(Session& session, const Arguments& arguments, const char* type) {

@@ -1,7 +1,5 @@
 #include "commands.h"
 #include "disc_info.h"
-#include "failure.h"
-#include "os.h"
 
 #include <array>
 #include <cstdio>
@@ -55,12 +53,6 @@ std::string tableRow(const char* type, const std::string& size, const char* unit
     return columns.data() + name;
 }
 
-ByteSource openDisc(World& world, const std::string& argument) {
-    if (const auto drive = world.drive(argument))
-        return drive->open();
-    return {os::pathFromText(argument), argument};
-}
-
 } // namespace
 
 void query(Session& session, const Arguments&) {
@@ -83,7 +75,7 @@ void listGames(Session& session, const Arguments& arguments) {
 }
 
 void describeDisc(Session& session, const Arguments& arguments) {
-    ByteSource disc = openDisc(session.world, arguments[0]);
+    ByteSource disc = session.world.openDisc(arguments[0]);
     const DiscInfo info = readDiscInfo(disc);
     session.output.line((info.dualLayer ? "dual-layer " : "") + info.type + " " + kilobytes(info.sizeBytes) +
                         "KB \"" + info.label + "\" \"" + info.startup + "\"");

@@ -139,7 +139,8 @@ void Disk::checkRoomFor(const Game& game) const {
 fs::path Disk::reserveData(Game& game) {
     dropUnlistedData();
     KeyValues figures = readKeyValues(folder_ / "disk.ini");
-    game.id = figures.number("next_game", 1);
+    const auto present = games();
+    game.id = std::max(figures.number("next_game", 1), present.empty() ? 1 : present.back().id + 1);
     figures.set("next_game", game.id + 1);
     writeWholeFile(folder_ / "disk.ini", figures.toText());
     return dataFile(game.id);

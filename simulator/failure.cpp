@@ -7,7 +7,7 @@
 namespace simulator {
 
 Failure failureOf(const std::string& subject, const std::string& text) {
-    return Failure(subject + ": " + text);
+    return Failure(subject + (subject.ends_with(':') ? " " : ": ") + text);
 }
 
 std::string systemWords(const std::error_code& error) {

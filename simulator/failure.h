@@ -42,7 +42,7 @@ inline constexpr const char* kNoAnswer =
 
 } // namespace words
 
-/// "subject: words".
+/// "subject: words"; a subject such as "hdd1:" brings its own colon.
 Failure failureOf(const std::string& subject, const std::string& text);
 
 /// What the system says of an error, in the words of the tool's home system.

@@ -15,7 +15,8 @@ namespace {
 
 /// The number behind a prefix: 10 of "hdd10".
 std::optional<long long> numberBehind(const std::string& prefix, const std::string& name) {
-    if (!name.starts_with(prefix) || name.size() == prefix.size() || !std::isdigit(name[prefix.size()]))
+    if (!name.starts_with(prefix) || name.size() == prefix.size() ||
+        !std::isdigit(static_cast<unsigned char>(name[prefix.size()])))
         return std::nullopt;
     return parseNumber(name.substr(prefix.size()));
 }
@@ -130,6 +131,12 @@ std::optional<Drive> World::drive(const std::string& name) const {
             return drive;
     }
     return std::nullopt;
+}
+
+ByteSource World::openDisc(const std::string& name) const {
+    if (const auto found = drive(name))
+        return found->open();
+    return {os::pathFromText(name), name};
 }
 
 void World::switchOff(const std::string& address) const {

@@ -41,6 +41,9 @@ public:
     /// By either name ("cd0:", "cd0", "D:"); empty if it is none.
     std::optional<Drive> drive(const std::string& name) const;
 
+    /// The disc in a drive of this name, else the image file of this name. Throws Failure.
+    ByteSource openDisc(const std::string& name) const;
+
     /// A console that was told to power off stays off.
     void switchOff(const std::string& address) const;
 
