@@ -8,7 +8,9 @@
 #include <winioctl.h>
 
 // Names of games may hold "*" and "?": the C runtime must not take arguments for file patterns.
-extern "C" int _dowildcard = 0; // NOLINT(bugprone-reserved-identifier)
+extern "C" {
+int _dowildcard = 0; // NOLINT(bugprone-reserved-identifier)
+}
 
 namespace simulator::os {
 
