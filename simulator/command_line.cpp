@@ -69,6 +69,7 @@ void runCommand(Session& session, const Command& command, const Arguments& argum
     if (arguments.size() < command.fewestArguments || arguments.size() > command.mostArguments)
         throw Failure(words::kParameter);
     command.run(session, arguments);
+    session.output.flush();
     if (!command.copies)
         session.conduct.reached(100);
 }
@@ -105,6 +106,7 @@ int runTool(const std::filesystem::path& worldFolder, const std::vector<std::str
     const Command* command = findCommand(name);
     if (command == nullptr) {
         printUsage(output);
+        output.flush();
         log.note("< no such command");
         return kWrongUse;
     }

@@ -25,6 +25,7 @@ void Conduct::begin(bool copies) {
         output_.line(behaviour_.notice);
     printNoise();
     printFlood(copies);
+    output_.flush();
     reached(0);
 }
 

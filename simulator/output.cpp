@@ -11,13 +11,16 @@ namespace simulator {
 namespace {
 
 constexpr const char* kLineEnd = "\r\n";
+constexpr std::size_t kBlockBytes = 4096;
 
 } // namespace
 
 Output::Output(const Behaviour& behaviour) : behaviour_(behaviour) {}
 
 void Output::line(const std::string& text) {
-    raw(text + kLineEnd);
+    gathered_ += text + kLineEnd;
+    if (gathered_.size() >= kBlockBytes)
+        flush();
 }
 
 void Output::progress(const std::string& text) {
@@ -25,16 +28,27 @@ void Output::progress(const std::string& text) {
 }
 
 void Output::failure(const std::string& text) {
-    raw(text + kLineEnd, os::Stream::Error);
+    flush();
+    print(text + kLineEnd, os::Stream::Error);
 }
 
-void Output::raw(std::string_view bytes, os::Stream stream) {
+void Output::raw(std::string_view bytes) {
+    flush();
+    print(bytes, os::Stream::Output);
+}
+
+void Output::flush() {
+    print(gathered_, os::Stream::Output);
+    gathered_.clear();
+}
+
+void Output::print(std::string_view bytes, os::Stream stream) {
     if (behaviour_.silent)
         return;
     if (behaviour_.cutAfter)
         bytes = bytes.substr(0, *behaviour_.cutAfter - std::min(*behaviour_.cutAfter, written_));
+    const auto& splits = behaviour_.splitAfter;
     while (!bytes.empty()) {
-        const auto& splits = behaviour_.splitAfter;
         while (nextSplit_ < splits.size() && splits[nextSplit_] <= written_)
             ++nextSplit_;
         const bool splitAhead = nextSplit_ < splits.size() && splits[nextSplit_] - written_ <= bytes.size();
