@@ -1,0 +1,151 @@
+#include "simulator/tool_runner.h"
+
+#include <regex>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::uint64_t kMb = 1024 * 1024;
+
+class Copying : public SimulatedTool {};
+
+/// Progress lines without their ends; what follows the last carriage return comes as a last line.
+std::vector<std::string> linesOf(const std::string& text) {
+    std::vector<std::string> lines;
+    std::size_t at = 0;
+    for (std::size_t end; (end = text.find('\r', at)) != std::string::npos; at = end + 1)
+        lines.push_back(text.substr(at, end - at));
+    if (at < text.size())
+        lines.push_back(text.substr(at));
+    return lines;
+}
+
+TEST_F(Copying, ProgressGoesFromZeroToHundredInLinesEndedByACarriageReturn) {
+    makeImage("a.iso");
+    const Result result = run({"inject_dvd", "hdd1:", "Game", "a.iso"});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.text.find('\n'), std::string::npos);
+    const auto lines = linesOf(result.text);
+    ASSERT_EQ(lines.size(), 101u);
+    EXPECT_EQ(lines.front(), "  0%");
+    const std::regex shape(R"( *(\d+)%, \d+ min remaining, \d+\.\d\d MB/sec)");
+    for (std::size_t i = 1; i < lines.size(); ++i) {
+        std::smatch match;
+        ASSERT_TRUE(std::regex_match(lines[i], match, shape)) << lines[i];
+        EXPECT_EQ(match[1], std::to_string(i));
+    }
+    EXPECT_EQ(lines.back().substr(0, 5), "100%,");
+    EXPECT_EQ(result.text.back(), '\r');
+}
+
+TEST_F(Copying, ExtractGivesBackTheInjectedBytes) {
+    makeImage("a.iso", "SLUS_123.45", 3 * kMb);
+    std::string odd = read(folder() / "a.iso") + "an end off every boundary";
+    odd[1500000] = 'x';
+    write(folder() / "a.iso", odd);
+    ASSERT_EQ(run({"inject_dvd", "hdd1:", "Game", "a.iso"}).exitCode, 0);
+    ASSERT_EQ(run({"extract", "hdd1:", "Game", "back.iso"}).exitCode, 0);
+    EXPECT_TRUE(read(folder() / "back.iso") == odd);
+}
+
+TEST_F(Copying, ALargeSparseImageTakesNeitherTimeNorRoom) {
+    const std::uint64_t size = 8000 * kMb;
+    simulator::Disk::create(worldFolder() / "disks" / "hdd4", "hdd4:", 10000, true);
+    makeImage("big.iso", "SLUS_123.45", size);
+    fs::resize_file(folder() / "big.iso", size + 5); // a tail that is no whole block
+    ASSERT_EQ(run({"inject_dvd", "hdd4:", "Big", "big.iso"}).exitCode, 0);
+    ASSERT_EQ(run({"extract", "hdd4:", "Big", "back.iso"}).exitCode, 0);
+    EXPECT_EQ(fs::file_size(folder() / "back.iso"), size + 5);
+    EXPECT_EQ(disk("hdd4").usedMb(), 8064);
+    EXPECT_GT(fs::space(folder()).available, 0u);
+}
+
+TEST_F(Copying, TypeStartupAndFlagsAreKept) {
+    makeImage("a.iso");
+    ASSERT_EQ(run({"inject_cd", "hdd1:", "Game", "a.iso", "SLES_000.11", "+1+3+8"}).exitCode, 0);
+    const simulator::Game game = disk("hdd1").get("Game");
+    EXPECT_EQ(game.type, "CD");
+    EXPECT_EQ(game.startup, "SLES_000.11");
+    EXPECT_EQ(game.flags, "+1+3+8");
+    EXPECT_EQ(game.sizeBytes, kMb);
+}
+
+TEST_F(Copying, AMissingOrEmptyStartupFileIsReadFromTheImage) {
+    makeImage("a.iso", "SLPM_555.66");
+    ASSERT_EQ(run({"inject_dvd", "hdd1:", "Without", "a.iso"}).exitCode, 0);
+    ASSERT_EQ(run({"inject_dvd", "hdd1:", "Empty", "a.iso", "", "+2"}).exitCode, 0);
+    EXPECT_EQ(disk("hdd1").get("Without").startup, "SLPM_555.66");
+    EXPECT_EQ(disk("hdd1").get("Empty").startup, "SLPM_555.66");
+    EXPECT_EQ(disk("hdd1").get("Empty").flags, "+2");
+}
+
+TEST_F(Copying, WithAStartupFileAnyFileCanBeInstalled) {
+    write(folder() / "plain.bin", "no image at all");
+    ASSERT_EQ(run({"inject_cd", "hdd1:", "Plain", "plain.bin", "SLES_000.11"}).exitCode, 0);
+    ASSERT_EQ(run({"extract", "hdd1:", "Plain", "back.bin"}).exitCode, 0);
+    EXPECT_EQ(read(folder() / "back.bin"), "no image at all");
+}
+
+TEST_F(Copying, ADiscIsInstalledFromItsDriveByEitherName) {
+    ASSERT_EQ(run({"inject_cd", "hdd1", "By letter", "E:"}).exitCode, 0);
+    ASSERT_EQ(run({"inject_cd", "hdd1", "By name", "cd1:"}).exitCode, 0);
+    EXPECT_EQ(disk("hdd1").get("By letter").startup, "SLUS_999.99");
+    EXPECT_EQ(disk("hdd1").get("By name").sizeBytes, kMb);
+}
+
+TEST_F(Copying, DumpMakesAnImageOfTheDisc) {
+    const Result result = run({"dump", "E:", "my disc.iso"});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_NE(result.text.find("\r100%, "), std::string::npos);
+    EXPECT_TRUE(read(folder() / "my disc.iso") == read(worldFolder() / "discs" / "game.iso"));
+}
+
+TEST_F(Copying, GamesAreCopiedBetweenDisksAndConsolesWithAllTheyHave) {
+    makeImage("a.iso", "SLUS_123.45", 2 * kMb);
+    run({"inject_dvd", "hdd1:", "My Game", "a.iso", "SLUS_123.45", "+4"});
+    ASSERT_EQ(run({"inject_dvd", "hdd2:", "My Game", "My Game@hdd1:"}).exitCode, 0);
+    ASSERT_EQ(run({"inject_dvd", "127.0.0.1", "My Game", "My Game@hdd2:"}).exitCode, 0);
+    ASSERT_EQ(run({"inject_dvd", "hdd1", "Back again", "My Game@127.0.0.1"}).exitCode, 0);
+    ASSERT_EQ(run({"extract", "hdd1:", "Back again", "back.iso"}).exitCode, 0);
+    EXPECT_TRUE(read(folder() / "back.iso") == read(folder() / "a.iso"));
+    EXPECT_EQ(console().get("My Game").flags, "+4");
+    EXPECT_EQ(disk("hdd1").get("Back again").startup, "SLUS_123.45");
+}
+
+TEST_F(Copying, ANameMayHoldAnAtSignOfItsOwn) {
+    makeImage("a.iso");
+    run({"inject_dvd", "hdd1:", "me@home", "a.iso"});
+    EXPECT_EQ(run({"inject_dvd", "hdd2:", "me@home", "me@home@hdd1:"}).exitCode, 0);
+}
+
+TEST_F(Copying, NamesPassThroughByteForByte) {
+    const std::string name = "\xE9t\xE9 \xFF\x80 100% = # [x] ";
+    makeImage("a.iso");
+    ASSERT_EQ(run({"inject_dvd", "hdd1:", name, "a.iso"}).exitCode, 0);
+    EXPECT_NE(text({"tarn_toc", "hdd1:"}).find("   " + name + "\r\n"), std::string::npos);
+    EXPECT_EQ(run({"extract", "hdd1:", name, "back.iso"}).exitCode, 0);
+    EXPECT_NE(run({"extract", "hdd1:", "\xE9t\xE9", "other.iso"}).exitCode, 0);
+}
+
+TEST_F(Copying, AGameThatJustFitsIsTaken) {
+    makeImage("half.iso", "A", 512 * kMb);
+    EXPECT_EQ(run({"inject_cd", "hdd1:", "One", "half.iso"}).exitCode, 0);
+    EXPECT_EQ(run({"inject_cd", "hdd1:", "Two", "half.iso"}).exitCode, 0);
+    EXPECT_EQ(text({"inject_cd", "hdd1:", "Three", "E:"}), "hdd1: not enough free space.\r\n");
+}
+
+TEST_F(Copying, TheSamplesAreWhatTheirNamesSay) {
+    ASSERT_EQ(runProgram(SAMPLES_EXECUTABLE, {"samples"}, folder()).exitCode, 0);
+    EXPECT_EQ(text({"cdvd_info2", "samples/cd-game.iso"}),
+              "CD 65536KB \"SALT_AND_SAND\" \"SLUS_990.51\"\r\n");
+    EXPECT_EQ(text({"cdvd_info2", "samples/DVD game.iso"}),
+              "DVD 1126400KB \"EVENING_FERRY\" \"SLES_990.52\"\r\n");
+    EXPECT_EQ(text({"cdvd_info2", "samples/dual-layer.iso"}).substr(0, 15), "dual-layer DVD ");
+    EXPECT_EQ(text({"cdvd_info2", "samples/no-label.iso"}), "CD 131072KB \"\" \"SLPM_990.54\"\r\n");
+    EXPECT_EQ(text({"cdvd_info2", "samples/not-a-game.iso"}),
+              "samples/not-a-game.iso: not a Playstation CD-ROM/DVD-ROM.\r\n");
+    EXPECT_EQ(runProgram(SAMPLES_EXECUTABLE, {"samples"}, folder()).exitCode, 0) << "made twice";
+}
+
+} // namespace
