@@ -2,6 +2,8 @@
 
 #include "platform/qt/qt_event_pump.h"
 
+class QDialog;
+
 namespace tarnwell {
 
 /// Boxes of the desktop, in front of the window that the user is at.
@@ -13,7 +15,7 @@ public:
     std::optional<QString> openFile(const OpenFileRequest& request) override;
 
 private:
-    int waitFor(class QDialog& dialog) const;
+    int waitFor(QDialog& dialog) const;
 
     const QtEventPump& pump_;
 };

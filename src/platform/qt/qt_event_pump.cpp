@@ -12,7 +12,7 @@ namespace tarnwell {
 namespace {
 
 /// A program that always has something pending (a timer of 0 ms) must not hold the caller of `pump`.
-constexpr int kLongestPumpMs = 100;
+constexpr int kLongestPumpMs = 20;
 
 /// Sleeps until an event comes, at the latest for the given time, and serves what has come. User input is
 /// never left out: it would only be kept and replayed to the wrong state, and Cancel would freeze.

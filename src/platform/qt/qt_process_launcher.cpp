@@ -18,8 +18,7 @@ public:
     ~QtChildProcess() override { keepUntilFinished(std::move(process_)); }
 
     bool running() override {
-        // A wait of no time looks at the process and its pipes; the state alone would be as old as the last
-        // pump.
+        // The state alone is as old as the last pump; a wait of no time looks at the process and its pipes.
         return process_->state() != QProcess::NotRunning && !process_->waitForFinished(0);
     }
 

@@ -1,0 +1,249 @@
+#include "platform/helpers.h"
+#include "platform/qt/file_filter.h"
+#include "platform/qt/message_text.h"
+#include "platform/qt/qt_dialogs.h"
+#include "support/gtest_qt.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace tarnwell {
+namespace {
+
+using test::runProgram;
+
+TEST(FileFilter, PairsOfWordsAndPatternsBecomeTheToolkitsFilters) {
+    EXPECT_EQ(toolkitFilters("Wave files (*.wav)|*.wav|All Files (*.*)|*.*|"),
+              QStringList({"Wave files (*.wav)", "All Files (*)"}));
+    EXPECT_EQ(toolkitFilters("Images|*.iso;*.bin; *.cue"), QStringList({"Images (*.iso *.bin *.cue)"}));
+    EXPECT_EQ(toolkitFilters("Images (ISO) of games|*.iso"), QStringList({"Images (ISO) of games (*.iso)"}));
+}
+
+TEST(FileFilter, WhatIsNoPairIsPassedOver) {
+    EXPECT_EQ(toolkitFilters(""), QStringList());
+    EXPECT_EQ(toolkitFilters("words"), QStringList());
+    EXPECT_EQ(toolkitFilters("words|"), QStringList());
+    EXPECT_EQ(toolkitFilters("words|*.a|more words"), QStringList({"words (*.a)"}));
+}
+
+TEST(MessageText, AnOrdinaryTextIsShownAsItIs) {
+    const QString text = "tarnwell.exe was not found.\nPlace it in the same directory & try again. <b>";
+    EXPECT_EQ(fitMessageText(text).shown, text);
+    EXPECT_EQ(fitMessageText(text).whole, "");
+}
+
+TEST(MessageText, ALongWordMayBeBroken) {
+    const QString path = "/home/" + QString(200, u'a');
+    QString shown = fitMessageText(path).shown;
+    EXPECT_GT(shown.size(), path.size());
+    EXPECT_EQ(shown.remove(QChar(0x200B)), path);
+}
+
+TEST(MessageText, AVeryLongTextIsCutAndKeptWhole) {
+    const QString lines = QStringLiteral("line\n").repeated(500);
+    EXPECT_LE(fitMessageText(lines).shown.count(u'\n'), 20);
+    EXPECT_EQ(fitMessageText(lines).whole, lines);
+    const QString words = QStringLiteral("word ").repeated(5000);
+    EXPECT_LT(fitMessageText(words).shown.size(), 1100);
+    EXPECT_EQ(fitMessageText(words).whole, words);
+}
+
+template <typename Dialog>
+Dialog* openDialog() {
+    return qobject_cast<Dialog*>(QApplication::activeModalWidget());
+}
+
+/// Does something to the dialog that comes up next, while the context lives.
+template <typename Dialog>
+void whenOpen(std::function<void(Dialog&)> act, QObject* context = qApp) {
+    QTimer::singleShot(1, context, [act = std::move(act), context] {
+        auto* const dialog = openDialog<Dialog>();
+        dialog != nullptr ? act(*dialog) : whenOpen<Dialog>(act, context);
+    });
+}
+
+class DialogsTest : public testing::Test {
+protected:
+    QtEventPump pump_;
+    QtDialogs dialogs_{pump_};
+};
+
+TEST_F(DialogsTest, AMessageShowsItsPlainTextUntilTheUserConfirmsIt) {
+    bool seen = false;
+    whenOpen<QMessageBox>([&](QMessageBox& box) {
+        seen = true;
+        EXPECT_EQ(box.text(), "<b>Device</b> & more");
+        EXPECT_EQ(box.textFormat(), Qt::PlainText);
+        EXPECT_EQ(box.windowTitle(), "Tarnwell GUI");
+        EXPECT_EQ(box.icon(), QMessageBox::Warning);
+        EXPECT_EQ(box.standardButtons(), QMessageBox::Ok);
+        EXPECT_EQ(box.buttons().size(), 1);
+        EXPECT_EQ(box.parentWidget(), nullptr);
+        box.button(QMessageBox::Ok)->click();
+    });
+    dialogs_.message("<b>Device</b> & more", MessageIcon::Exclamation, "Tarnwell GUI");
+    EXPECT_TRUE(seen);
+}
+
+TEST_F(DialogsTest, AStopMessageHasTheStopIcon) {
+    whenOpen<QMessageBox>([](QMessageBox& box) {
+        EXPECT_EQ(box.icon(), QMessageBox::Critical);
+        box.reject();
+    });
+    dialogs_.message("Unexpected error.", MessageIcon::Stop, "Tarnwell GUI");
+}
+
+TEST_F(DialogsTest, AMessageBelongsToTheWindowThatTheUserIsAt) {
+    QWidget window;
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(test::pumpUntil([&] { return window.isActiveWindow(); }));
+    whenOpen<QMessageBox>([&](QMessageBox& box) {
+        EXPECT_EQ(box.parentWidget(), &window);
+        box.accept();
+    });
+    dialogs_.message("text", MessageIcon::Exclamation, "title");
+}
+
+TEST_F(DialogsTest, AMessageOfAnyLengthFitsTheScreen) {
+    for (const QString& text : {QString(10'000, u'x'), QStringLiteral("line\n").repeated(1000),
+                                QStringLiteral("some words ").repeated(1000)}) {
+        whenOpen<QMessageBox>([&](QMessageBox& box) {
+            const QSize screen = box.screen()->availableSize();
+            EXPECT_LE(box.frameSize().width(), screen.width());
+            EXPECT_LE(box.frameSize().height(), screen.height());
+            EXPECT_EQ(box.detailedText(), text);
+            box.accept();
+        });
+        dialogs_.message(text, MessageIcon::Exclamation, "title");
+    }
+}
+
+TEST_F(DialogsTest, EventsAreServedWhileAMessageIsOpen) {
+    int served = 0;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&] {
+        if (++served == 3) {
+            openDialog<QMessageBox>()->accept();
+        }
+    });
+    timer.start(5);
+    dialogs_.message("text", MessageIcon::Exclamation, "title");
+    EXPECT_EQ(served, 3);
+}
+
+TEST_F(DialogsTest, AMessageMayComeUpOverAnother) {
+    QStringList closed;
+    whenOpen<QMessageBox>([&](QMessageBox& first) {
+        QTimer::singleShot(0, qApp, [&] {
+            ASSERT_EQ(openDialog<QMessageBox>()->text(), "second");
+            openDialog<QMessageBox>()->accept();
+        });
+        dialogs_.message("second", MessageIcon::Exclamation, "title");
+        closed += "second";
+        first.accept();
+    });
+    dialogs_.message("first", MessageIcon::Exclamation, "title");
+    closed += "first";
+    EXPECT_EQ(closed, QStringList({"second", "first"}));
+}
+
+TEST_F(DialogsTest, TheEndOfTheProgramClosesAnOpenDialogAndItsHandlerGoesNoFurther) {
+    using Open = std::function<void(QtDialogs&)>;
+    for (const Open& open :
+         {Open([](QtDialogs& dialogs) { dialogs.message("text", MessageIcon::Exclamation, "title"); }),
+          Open([](QtDialogs& dialogs) { dialogs.openFile({}); })}) {
+        QtEventPump pump;
+        QtDialogs dialogs(pump);
+        bool thrown = false;
+        runProgram(pump, [&] {
+            QTimer::singleShot(20, qApp, [&] { pump.end(); });
+            try {
+                open(dialogs);
+            } catch (const ProgramEnded&) {
+                thrown = true;
+            }
+        });
+        EXPECT_TRUE(thrown);
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+        EXPECT_THROW(open(dialogs), ProgramEnded) << "and none is opened any more";
+    }
+}
+
+class OpenFileTest : public DialogsTest {
+protected:
+    void SetUp() override {
+        QFile file(folder_.filePath("game.iso"));
+        ASSERT_TRUE(file.open(QFile::WriteOnly));
+        pump_.pump();
+    }
+
+    /// Types a name and presses Enter; cancels if the dialog stays open.
+    void type(const QString& name) {
+        whenOpen<QFileDialog>([name](QFileDialog& dialog) {
+            auto* const edit = dialog.findChild<QLineEdit*>("fileNameEdit");
+            ASSERT_NE(edit, nullptr);
+            edit->setText(name);
+            const auto giveUp = [&dialog](QMessageBox& complaint) {
+                complaint.accept();
+                QTimer::singleShot(0, &dialog, &QDialog::reject);
+            };
+            whenOpen<QMessageBox>(giveUp, &dialog);
+            QMetaObject::invokeMethod(&dialog, "accept");
+        });
+    }
+
+    OpenFileRequest request() const {
+        return {"Select Image", "Images|*.iso|All Files (*.*)|*.*|", folder_.path(), true};
+    }
+
+    QTemporaryDir folder_;
+};
+
+TEST_F(OpenFileTest, ShowsWhatWasAskedFor) {
+    whenOpen<QFileDialog>([&](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), "Select Image");
+        EXPECT_EQ(dialog.nameFilters(), QStringList({"Images (*.iso)", "All Files (*)"}));
+        EXPECT_EQ(dialog.directory().canonicalPath(), QFileInfo(folder_.path()).canonicalFilePath());
+        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptOpen);
+        dialog.reject();
+    });
+    EXPECT_EQ(dialogs_.openFile(request()), std::nullopt);
+}
+
+TEST_F(OpenFileTest, GivesThePathOfTheChosenFile) {
+    type(folder_.filePath("game.iso"));
+    EXPECT_EQ(dialogs_.openFile(request()), folder_.filePath("game.iso"));
+}
+
+TEST_F(OpenFileTest, AFileThatMustExistIsInsistedOn) {
+    type(folder_.filePath("missing.iso"));
+    EXPECT_EQ(dialogs_.openFile(request()), std::nullopt);
+}
+
+TEST_F(OpenFileTest, AFileThatNeedNotExistMayBeNamed) {
+    OpenFileRequest lenient = request();
+    lenient.mustExist = false;
+    type(folder_.filePath("missing.iso"));
+    EXPECT_EQ(dialogs_.openFile(lenient), folder_.filePath("missing.iso"));
+}
+
+TEST_F(OpenFileTest, AskingForNothingInParticularOpensThePlatformsOwnDialog) {
+    whenOpen<QFileDialog>([](QFileDialog& dialog) {
+        EXPECT_FALSE(dialog.windowTitle().isEmpty());
+        dialog.reject();
+    });
+    EXPECT_EQ(dialogs_.openFile({}), std::nullopt);
+}
+
+} // namespace
+} // namespace tarnwell

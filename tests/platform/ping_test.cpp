@@ -1,0 +1,290 @@
+#include "platform/helpers.h"
+#include "platform/native.h"
+#include "platform/network_namespace.h"
+#include "platform/posix/icmp_packet.h"
+#include "platform/posix/ping_program.h"
+#include "platform/posix/ping_status.h"
+#include "services/internet_address.h"
+#include "services/mod_ping.h"
+#include "support/gtest_qt.h"
+
+#include <QFile>
+#include <QHostAddress>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace tarnwell {
+namespace {
+
+std::optional<quint32> address(const char* text) {
+    return parseInternetAddress(QString::fromLatin1(text));
+}
+
+TEST(InternetAddress, FourPartsAreFourBytes) {
+    EXPECT_EQ(address("192.168.0.10"), 0xC0A8000A);
+    EXPECT_EQ(address("0.0.0.0"), 0U);
+    EXPECT_EQ(address("255.255.255.255"), 0xFFFFFFFF);
+}
+
+TEST(InternetAddress, TheLastPartFillsWhatIsLeft) {
+    EXPECT_EQ(address("10.1.513"), 0x0A010201U);
+    EXPECT_EQ(address("10.65537"), 0x0A010001U);
+    EXPECT_EQ(address("3232235530"), 0xC0A8000A);
+}
+
+TEST(InternetAddress, PartsMayBeOctalOrHexadecimal) {
+    EXPECT_EQ(address("0300.0250.0.012"), 0xC0A8000A);
+    EXPECT_EQ(address("0xC0.0xa8.0X0.0x0A"), 0xC0A8000A);
+    EXPECT_EQ(address("0xC0A8000A"), 0xC0A8000A);
+    EXPECT_EQ(address("192.168.000.010"), 0xC0A80008) << "the console's own way of writing it is octal here";
+}
+
+TEST(InternetAddress, ABlankEndsTheText) {
+    EXPECT_EQ(address("192.168.0.10 "), 0xC0A8000A);
+    EXPECT_EQ(address("192.168.0.10 and more"), 0xC0A8000A);
+    EXPECT_EQ(address("192.168.0.10\t"), 0xC0A8000A);
+}
+
+TEST(InternetAddress, APartThatIsTooLargeIsNoAddress) {
+    for (const char* text : {"256.1.1.1", "1.256.1.1", "1.1.1.256", "1.1.65536", "1.16777216", "4294967296",
+                             "99999999999999999999", "0x100000000"}) {
+        EXPECT_EQ(address(text), std::nullopt) << text;
+    }
+}
+
+TEST(InternetAddress, AnythingElseIsNoAddress) {
+    for (const char* text : {"", " ", " 1.2.3.4", "playstation", "ps2.local", "1.2.3.4.5", "1.2.3.", ".1.2.3",
+                             "1..2.3", "1.2.3.4x", "-1.2.3.4", "+1.2.3.4", "1.2.3.08", "0x", "0x.1", "0x-1",
+                             "1,2,3,4", "::1", "12a.1.1.1"}) {
+        EXPECT_EQ(address(text), std::nullopt) << text;
+    }
+    EXPECT_EQ(parseInternetAddress(QStringLiteral("\u0661.1.1.1")), std::nullopt)
+        << "digits of other scripts";
+}
+
+class AnsweringPing : public Ping {
+public:
+    Reply sendEcho(quint32 to, const QByteArray& with, int within) override {
+        ++echoes;
+        address = to;
+        payload = with;
+        timeoutMs = within;
+        return reply;
+    }
+
+    Reply reply{0, 12};
+    int echoes = 0;
+    quint32 address = 0;
+    QByteArray payload;
+    int timeoutMs = 0;
+};
+
+TEST(PingConsole, SendsOneHelloAndWaitsHalfASecond) {
+    AnsweringPing ping;
+    EXPECT_EQ(PingConsole("192.168.0.10", ping), 12);
+    EXPECT_EQ(ping.echoes, 1);
+    EXPECT_EQ(ping.address, 0xC0A8000A);
+    EXPECT_EQ(ping.payload, "hello");
+    EXPECT_EQ(ping.timeoutMs, 500);
+}
+
+TEST(PingConsole, AnAnswerInNoTimeIsAnAnswer) {
+    AnsweringPing ping;
+    ping.reply = {0, 0};
+    EXPECT_EQ(PingConsole("192.168.0.10", ping), 0);
+}
+
+TEST(PingConsole, EveryFailureIsUnreachable) {
+    for (const int status : {11001, 11002, 11003, 11010, 11050, -1, 4711}) {
+        AnsweringPing ping;
+        ping.reply = {status, 12};
+        EXPECT_EQ(PingConsole("192.168.0.10", ping), -1) << status;
+        EXPECT_EQ(ping.echoes, 1) << "no second try";
+    }
+}
+
+TEST(PingConsole, NoPacketIsSentToWhatIsNoHost) {
+    for (const char* text :
+         {"", "0.0.0.0", "0", "255.255.255.255", "0xFFFFFFFF", "playstation", "1.2.3.999"}) {
+        AnsweringPing ping;
+        EXPECT_EQ(PingConsole(QString::fromLatin1(text), ping), -1) << text;
+        EXPECT_EQ(ping.echoes, 0) << text;
+    }
+}
+
+const icmp::Echo kEcho{0x1234, 7, "hello"};
+
+QByteArray reply(const icmp::Echo& echo) {
+    QByteArray message = icmp::request(echo);
+    message[0] = 0;
+    return message;
+}
+
+TEST(IcmpPacket, ARequestCarriesItsFields) {
+    const QByteArray message = icmp::request(kEcho);
+    EXPECT_EQ(message.left(2), QByteArray("\x08\x00", 2));
+    EXPECT_EQ(message.mid(4), QByteArray("\x12\x34\x00\x07hello", 9));
+    EXPECT_EQ(icmp::checksum(message), 0);
+}
+
+TEST(IcmpPacket, OnlyTheReplyToThisRequestIsOne) {
+    EXPECT_TRUE(icmp::isReplyTo(kEcho, reply(kEcho)));
+    EXPECT_FALSE(icmp::isReplyTo(kEcho, icmp::request(kEcho)))
+        << "our own request, which loopback gives back";
+    EXPECT_FALSE(icmp::isReplyTo(kEcho, reply({0x1235, 7, "hello"})));
+    EXPECT_FALSE(icmp::isReplyTo(kEcho, reply({0x1234, 6, "hello"}))) << "a late reply to the echo before";
+    EXPECT_FALSE(icmp::isReplyTo(kEcho, reply({0x1234, 7, "hullo"})));
+    EXPECT_FALSE(icmp::isReplyTo(kEcho, reply(kEcho).chopped(1)));
+    EXPECT_FALSE(icmp::isReplyTo(kEcho, reply(kEcho).left(7)));
+    EXPECT_FALSE(icmp::isReplyTo(kEcho, ""));
+}
+
+TEST(IcmpPacket, TheIpHeaderIsAsLongAsItSays) {
+    EXPECT_EQ(icmp::withoutIpHeader(QByteArray(1, '\x45') + QByteArray(19, 'h') + "icmp"), "icmp");
+    EXPECT_EQ(icmp::withoutIpHeader(QByteArray(1, '\x46') + QByteArray(23, 'h') + "icmp"), "icmp");
+    EXPECT_EQ(icmp::withoutIpHeader("E"), "");
+    EXPECT_EQ(icmp::withoutIpHeader(""), "");
+}
+
+constexpr quint32 kLoopback = 0x7F000001;
+
+TEST(RealPing, ThisMachineAnswers) {
+    const auto ping = native::makePing();
+    for (int i = 0; i < 3; ++i) {
+        const Ping::Reply answer = ping->sendEcho(kLoopback, "hello", 500);
+        EXPECT_EQ(answer.status, ping_status::kSuccess);
+        EXPECT_GE(answer.roundTripMs, 0);
+        EXPECT_LT(answer.roundTripMs, 500);
+    }
+}
+
+TEST(RealPing, WaitingForAReplyServesNoEvents) {
+    bool served = false;
+    QTimer::singleShot(0, qApp, [&] { served = true; });
+    native::makePing()->sendEcho(kLoopback, "hello", 500);
+    EXPECT_FALSE(served);
+    QtEventPump().pump();
+}
+
+/// Runs an act of the helper program in a network of its own; nothing if the system does not allow one.
+std::optional<QByteArray> inOwnNetwork(const QStringList& arguments) {
+    QProcess program;
+    program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    program.start(test::builtProgram("program_helper"), arguments);
+    EXPECT_TRUE(program.waitForFinished(test::kPatienceMs));
+    if (program.exitCode() == test::kNoNamespace) {
+        return std::nullopt;
+    }
+    EXPECT_EQ(program.exitCode(), 0);
+    return program.readAllStandardOutput().trimmed();
+}
+
+#define OUTPUT_IN_OWN_NETWORK(name, ...)                                                                     \
+    const std::optional<QByteArray> name##Output = inOwnNetwork(__VA_ARGS__);                                \
+    if (!name##Output) {                                                                                     \
+        GTEST_SKIP() << "this system does not allow a network of one's own";                                 \
+    }                                                                                                        \
+    const QByteArrayList name = name##Output->split(' ')
+
+TEST(RealPing, OnePacketWithThePayloadGoesOut) {
+    OUTPUT_IN_OWN_NETWORK(told, {"ping", "127.0.0.1"});
+    ASSERT_EQ(told.size(), 4);
+    EXPECT_GE(told[0].toInt(), 0);
+    EXPECT_LT(told[1].toInt(), 450);
+    EXPECT_EQ(told[2], "1");
+    EXPECT_EQ(told[3], "[hello]");
+}
+
+TEST(RealPing, ADatagramSocketServesWhereTheSystemAllowsIt) {
+    OUTPUT_IN_OWN_NETWORK(told, {"ping", "127.0.0.1", "datagrams"});
+    ASSERT_EQ(told.size(), 4);
+    EXPECT_GE(told[0].toInt(), 0);
+    EXPECT_EQ(told[2], "1");
+    EXPECT_EQ(told[3], "[hello]");
+}
+
+TEST(RealPing, ASilentHostIsGivenUpAfterHalfASecond) {
+    for (const char* way : {"raw", "datagrams"}) {
+        OUTPUT_IN_OWN_NETWORK(told, {"ping", "10.9.9.9", way});
+        ASSERT_GE(told.size(), 3);
+        EXPECT_EQ(told[0], "-1");
+        EXPECT_GE(told[1].toInt(), 450);
+        EXPECT_LE(told[1].toInt(), 650);
+        EXPECT_EQ(told[2], "1");
+    }
+}
+
+TEST(RealPing, AHostWithoutARoadToItIsGivenUpAtOnce) {
+    for (const char* way : {"raw", "datagrams"}) {
+        OUTPUT_IN_OWN_NETWORK(told, {"ping", "10.1.1.1", way});
+        ASSERT_GE(told.size(), 3);
+        EXPECT_EQ(told[0], "-1");
+        EXPECT_LT(told[1].toInt(), 250);
+        EXPECT_EQ(told[2], "0");
+    }
+}
+
+TEST(RealPing, TheStatusSaysWhatWentWrong) {
+    const auto number = [](const char* dotted) { return QString::number(*address(dotted)); };
+    OUTPUT_IN_OWN_NETWORK(silent, {"status", number("10.9.9.9")});
+    EXPECT_EQ(silent[0].toInt(), ping_status::kTimedOut);
+    OUTPUT_IN_OWN_NETWORK(unreachable, {"status", number("10.1.1.1")});
+    EXPECT_EQ(unreachable[0].toInt(), ping_status::kNetUnreachable);
+}
+
+/// A ping program that does as the test says, and writes down how it was called.
+class FakePingProgram {
+public:
+    explicit FakePingProgram(const QByteArray& act) {
+        QFile script(path());
+        EXPECT_TRUE(script.open(QFile::WriteOnly));
+        script.write("#!/bin/sh\necho \"$LC_ALL $*\" > \"$0.called\"\n" + act + '\n');
+        script.close();
+        EXPECT_TRUE(script.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
+    }
+
+    QString path() const { return folder_.filePath("ping"); }
+    Ping::Reply echo() const { return echoByProgram(path(), kLoopback, "hello", 500); }
+    QByteArray called() const {
+        QFile file(path() + ".called");
+        return file.open(QFile::ReadOnly) ? file.readAll().trimmed() : QByteArray();
+    }
+
+private:
+    QTemporaryDir folder_;
+};
+
+TEST(PingProgram, IsAskedForOneShortEcho) {
+    const FakePingProgram ping("exit 0");
+    EXPECT_EQ(ping.echo().status, ping_status::kSuccess);
+    EXPECT_EQ(ping.called(), "C -n -q -c1 -W0.500 -s5 -p 68656c6c6f 127.0.0.1");
+}
+
+TEST(PingProgram, ItsExitCodeTellsTheOutcome) {
+    EXPECT_EQ(FakePingProgram("exit 1").echo().status, ping_status::kHostUnreachable);
+    EXPECT_EQ(FakePingProgram("sleep 0.51; exit 1").echo().status, ping_status::kTimedOut);
+    EXPECT_EQ(FakePingProgram("exit 2").echo().status, ping_status::kGeneralFailure);
+    EXPECT_EQ(FakePingProgram("kill -9 $$").echo().status, ping_status::kGeneralFailure);
+    EXPECT_EQ(echoByProgram("a-program-that-is-not-there", kLoopback, "hello", 500).status,
+              ping_status::kGeneralFailure);
+}
+
+TEST(PingProgram, IsNotWaitedForLongerThanTheTimeout) {
+    QElapsedTimer sinceStart;
+    sinceStart.start();
+    EXPECT_EQ(FakePingProgram("exec sleep 5").echo().status, ping_status::kTimedOut);
+    EXPECT_LT(sinceStart.elapsed(), 700);
+}
+
+TEST(PingProgram, TheSystemsOwnReachesThisMachine) {
+    if (QStandardPaths::findExecutable("ping").isEmpty()) {
+        GTEST_SKIP() << "no ping program here";
+    }
+    EXPECT_EQ(echoByProgram("ping", kLoopback, "hello", 500).status, ping_status::kSuccess);
+}
+
+} // namespace
+} // namespace tarnwell

@@ -1,0 +1,362 @@
+#include "platform/helpers.h"
+#include "platform/qt/qt_process_launcher.h"
+#include "support/gtest_qt.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QThread>
+
+#include <csignal>
+#include <gtest/gtest.h>
+#include <set>
+#include <unistd.h>
+
+namespace tarnwell {
+namespace {
+
+using test::builtProgram;
+using test::childCommand;
+using test::pumpUntil;
+using test::readAll;
+using test::readUntil;
+using test::startChild;
+
+/// Ends a process of these tests that would not end by itself.
+class Ending {
+public:
+    explicit Ending(const ChildProcess& child) : processId_(static_cast<pid_t>(child.processId())) {}
+    ~Ending() {
+        if (processId_ > 1) {
+            ::kill(processId_, SIGKILL);
+        }
+    }
+    Q_DISABLE_COPY_MOVE(Ending)
+
+private:
+    pid_t processId_;
+};
+
+bool isGone(qint64 processId) {
+    return !QFile::exists(QStringLiteral("/proc/%1").arg(processId)); // a zombie is still there
+}
+
+TEST(ProcessLauncher, WhatTheProgramPrintsArrivesWhole) {
+    const auto child = startChild("bytes 1000000");
+    ASSERT_TRUE(child);
+    EXPECT_EQ(readAll(*child), QByteArray(1'000'000, 'x'));
+}
+
+TEST(ProcessLauncher, NothingIsLostWhenTheProgramEndsBeforeItIsRead) {
+    const auto child = startChild("bytes 20000");
+    ASSERT_TRUE(child);
+    ASSERT_TRUE(pumpUntil([&] { return !child->running(); }));
+    EXPECT_EQ(readAll(*child), QByteArray(20'000, 'x'));
+}
+
+TEST(ProcessLauncher, AReadTakesNoMoreThanItsMaximum) {
+    const auto child = startChild("bytes 5000");
+    ASSERT_TRUE(child);
+    ASSERT_TRUE(pumpUntil([&] { return !child->running(); }));
+    EXPECT_EQ(child->read(0).size(), 0);
+    EXPECT_EQ(child->read(4096).size(), 4096);
+    EXPECT_EQ(child->read(4096).size(), 904);
+    EXPECT_EQ(child->read(4096).size(), 0);
+}
+
+TEST(ProcessLauncher, ASilentProgramGivesNothing) {
+    const auto child = startChild("exit 0");
+    ASSERT_TRUE(child);
+    EXPECT_EQ(readAll(*child), "");
+}
+
+TEST(ProcessLauncher, AFailingProgramIsAProgramThatHasGone) {
+    const auto child = startChild("exit 7");
+    ASSERT_TRUE(child);
+    EXPECT_EQ(readAll(*child), "");
+    EXPECT_FALSE(child->running());
+}
+
+TEST(ProcessLauncher, WhatACrashingProgramPrintedIsRead) {
+    const auto child = startChild("crash");
+    ASSERT_TRUE(child);
+    EXPECT_EQ(readAll(*child), "before the crash\n");
+    EXPECT_FALSE(child->running());
+}
+
+TEST(ProcessLauncher, BothStreamsArriveInTheOrderOfPrinting) {
+    const auto child = startChild("both-streams");
+    ASSERT_TRUE(child);
+    EXPECT_EQ(readAll(*child), "1 out\n2 err\n3 out\n4 err\n");
+}
+
+TEST(ProcessLauncher, HalfALineIsReadWhileTheProgramRuns) {
+    const auto child = startChild("half-line");
+    ASSERT_TRUE(child);
+    const Ending ending(*child);
+    EXPECT_TRUE(readUntil(*child, "half a"));
+    EXPECT_TRUE(child->running());
+    EXPECT_EQ(child->read(4096), "") << "and a read without anything to read does not block";
+}
+
+TEST(ProcessLauncher, BytesArePassedOnAsTheyComeEvenInTheMiddleOfACharacter) {
+    const auto child = startChild("split-character");
+    ASSERT_TRUE(child);
+    QByteArray first;
+    ASSERT_TRUE(pumpUntil([&] { return !(first = child->read(4096)).isEmpty(); }));
+    EXPECT_EQ(first, "\xC3");
+    EXPECT_EQ(readAll(*child), "\xA9\n");
+}
+
+TEST(ProcessLauncher, AProgramThatClosesItsOutputLivesOn) {
+    const auto child = startChild("close-output");
+    ASSERT_TRUE(child);
+    const Ending ending(*child);
+    EXPECT_TRUE(readUntil(*child, "last words\n"));
+    QtEventPump().pumpFor(50);
+    EXPECT_TRUE(child->running());
+}
+
+TEST(ProcessLauncher, ReadingAndWatchingNeedNoEvents) {
+    const auto child = startChild("bytes 200000");
+    ASSERT_TRUE(child);
+    bool served = false;
+    QTimer::singleShot(0, qApp, [&] { served = true; });
+    QByteArray output;
+    while (child->running()) {
+        output += child->read(4096);
+        QThread::msleep(1);
+    }
+    for (QByteArray rest = child->read(4096); !rest.isEmpty(); rest = child->read(4096)) {
+        output += rest;
+    }
+    EXPECT_EQ(output.size(), 200'000);
+    EXPECT_FALSE(served) << "nothing but the pump serves events";
+    QtEventPump().pump();
+}
+
+TEST(ProcessLauncher, StartingServesNoEvents) {
+    bool served = false;
+    QTimer::singleShot(0, qApp, [&] { served = true; });
+    const auto child = startChild("exit 0");
+    EXPECT_FALSE(served);
+    QtEventPump().pump();
+}
+
+TEST(ProcessLauncher, ArgumentsArriveAsTheyWereGrouped) {
+    const auto child = startChild("arguments inject \"My Game\" \"\" a\"b c\"d  last ");
+    ASSERT_TRUE(child);
+    EXPECT_EQ(readAll(*child), "[inject]\n[My Game]\n[]\n[ab cd]\n[last]\n");
+}
+
+TEST(ProcessLauncher, TheProgramsPathMayHoldBlanks) {
+    const QTemporaryDir folder;
+    ASSERT_TRUE(QDir(folder.path()).mkpath("my tools"));
+    const QString tool = folder.filePath("my tools/the tool.exe");
+    ASSERT_TRUE(QFile::link(builtProgram("child_helper"), tool));
+    const auto child = QtProcessLauncher().start(tool + " arguments x y");
+    ASSERT_TRUE(child);
+    EXPECT_EQ(readAll(*child), "[x]\n[y]\n");
+}
+
+TEST(ProcessLauncher, ABareNameMeansTheWorkingFolder) {
+    const QString before = QDir::currentPath();
+    ASSERT_TRUE(QDir::setCurrent(QCoreApplication::applicationDirPath()));
+    const auto child = QtProcessLauncher().start("child_helper arguments x");
+    EXPECT_FALSE(QtProcessLauncher().start("sh -c exit")) << "PATH is not searched";
+    QDir::setCurrent(before);
+    ASSERT_TRUE(child);
+    EXPECT_EQ(readAll(*child), "[x]\n");
+}
+
+TEST(ProcessLauncher, TheProgramGetsOurFolderAndEnvironment) {
+    qputenv("TARNWELL_TEST_MARK", "inherited");
+    const auto child = startChild("surroundings");
+    ASSERT_TRUE(child);
+    EXPECT_EQ(readAll(*child), QFile::encodeName(QDir::currentPath()) + "\ninherited\n");
+}
+
+TEST(ProcessLauncher, WhatCannotBeStartedGivesNothing) {
+    const QTemporaryDir folder;
+    const auto makeFile = [&](const QString& name, const QByteArray& content) {
+        QFile file(folder.filePath(name));
+        EXPECT_TRUE(file.open(QFile::WriteOnly));
+        file.write(content);
+        return file.fileName();
+    };
+    const QString plain = makeFile("plain", "#!/bin/sh\n");
+    const QString noProgram = makeFile("no-program", "just words");
+    ASSERT_TRUE(QFile::setPermissions(noProgram, QFile::ReadOwner | QFile::ExeOwner));
+
+    QtProcessLauncher launcher;
+    EXPECT_FALSE(launcher.start(folder.filePath("missing") + " query"));
+    EXPECT_FALSE(launcher.start(plain + " query")) << "not executable";
+    EXPECT_FALSE(launcher.start(noProgram + " query"));
+    EXPECT_FALSE(launcher.start(folder.path() + " query"));
+    EXPECT_FALSE(launcher.start(""));
+}
+
+TEST(ProcessLauncher, TheProgramReadsWhatIsWrittenToIt) {
+    const auto child = startChild("echo-input");
+    ASSERT_TRUE(child);
+    const Ending ending(*child);
+    EXPECT_EQ(child->write("yes\r\n"), 5);
+    EXPECT_TRUE(readUntil(*child, "yes\r\n"));
+    const QByteArray large(300'000, 'y');
+    EXPECT_EQ(child->write(large), large.size());
+    qsizetype echoed = 0;
+    EXPECT_TRUE(pumpUntil([&] { return (echoed += child->read(65'536).size()) == large.size(); }));
+}
+
+TEST(ProcessLauncher, WritingToAProgramThatHasGoneFails) {
+    const auto child = startChild("exit 0");
+    ASSERT_TRUE(child);
+    ASSERT_TRUE(pumpUntil([&] { return !child->running(); }));
+    EXPECT_EQ(child->write("too late"), -1);
+}
+
+TEST(ProcessLauncher, AnInterruptReachesTheProgramAndItsFarewellIsRead) {
+    const auto child = startChild("farewell");
+    ASSERT_TRUE(child);
+    const Ending ending(*child);
+    ASSERT_TRUE(readUntil(*child, "ready\n"));
+    child->interrupt();
+    EXPECT_EQ(readAll(*child), "interrupted\n");
+}
+
+TEST(ProcessLauncher, AnInterruptReachesAProgramBehindAScript) {
+    const QTemporaryDir folder;
+    QFile script(folder.filePath("script"));
+    ASSERT_TRUE(script.open(QFile::WriteOnly));
+    script.write("#!/bin/sh\n\"$1\" farewell\nexit 0\n");
+    script.close();
+    ASSERT_TRUE(script.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
+    const auto child =
+        QtProcessLauncher().start(script.fileName() + " \"" + builtProgram("child_helper") + '"');
+    ASSERT_TRUE(child);
+    const Ending ending(*child);
+    ASSERT_TRUE(readUntil(*child, "ready\n"));
+    child->interrupt();
+    EXPECT_EQ(readAll(*child), "interrupted\n");
+}
+
+TEST(ProcessLauncher, AProgramMayBeDeafToTheInterrupt) {
+    const auto child = startChild("deaf");
+    ASSERT_TRUE(child);
+    const Ending ending(*child);
+    ASSERT_TRUE(readUntil(*child, "ready\n"));
+    child->interrupt();
+    QtEventPump().pumpFor(100);
+    EXPECT_TRUE(child->running());
+}
+
+TEST(ProcessLauncher, AnInterruptOfAProgramThatHasGoneDoesNothing) {
+    const auto child = startChild("exit 0");
+    ASSERT_TRUE(child);
+    ASSERT_TRUE(pumpUntil([&] { return !child->running(); }));
+    child->interrupt();
+    EXPECT_FALSE(child->running());
+}
+
+TEST(ProcessLauncher, AnInterruptWorksThoughOurOwnIsIgnored) {
+    const auto before = std::signal(SIGINT, SIG_IGN); // so it is in a program that a script starts with "&"
+    const auto child = startChild("hang");
+    std::signal(SIGINT, before);
+    ASSERT_TRUE(child);
+    const Ending ending(*child);
+    ASSERT_TRUE(readUntil(*child, "ready\n"));
+    child->interrupt();
+    EXPECT_TRUE(pumpUntil([&] { return !child->running(); }));
+}
+
+TEST(ProcessLauncher, TheProgramHasASessionOfItsOwn) {
+    const auto child = startChild("session");
+    ASSERT_TRUE(child);
+    EXPECT_EQ(readAll(*child), "1\n");
+}
+
+TEST(ProcessLauncher, AProgramThatHasGoneLeavesNoZombie) {
+    const auto child = startChild("exit 0");
+    ASSERT_TRUE(child);
+    EXPECT_GT(child->processId(), 1);
+    ASSERT_TRUE(pumpUntil([&] { return !child->running(); }));
+    EXPECT_TRUE(isGone(child->processId()));
+    EXPECT_GT(child->processId(), 1) << "its id is still known";
+}
+
+TEST(ProcessLauncher, DroppingAProgramNeitherEndsItNorWaitsForIt) {
+    auto child = startChild("hang");
+    ASSERT_TRUE(child);
+    const Ending ending(*child);
+    ASSERT_TRUE(readUntil(*child, "ready\n"));
+    const qint64 processId = child->processId();
+    QElapsedTimer sinceDrop;
+    sinceDrop.start();
+    child.reset();
+    EXPECT_LT(sinceDrop.elapsed(), 500);
+    QtEventPump().pumpFor(100);
+    EXPECT_FALSE(isGone(processId));
+}
+
+TEST(ProcessLauncher, ADroppedProgramMayPrintAsMuchAsItLikesAndLeavesNoZombie) {
+    const QTemporaryDir folder;
+    const QString mark = folder.filePath("mark");
+    auto child = startChild("flood-and-mark \"" + mark + '"');
+    ASSERT_TRUE(child);
+    const qint64 processId = child->processId();
+    child.reset();
+    EXPECT_TRUE(pumpUntil([&] { return QFile::exists(mark) && isGone(processId); }));
+}
+
+TEST(ProcessLauncher, ADroppedProgramReadsTheEndOfItsInput) {
+    auto child = startChild("echo-input");
+    ASSERT_TRUE(child);
+    const qint64 processId = child->processId();
+    child.reset();
+    EXPECT_TRUE(pumpUntil([&] { return isGone(processId); }));
+}
+
+/// Another program starts the child, drops it or not, and ends; the child must go on, though nobody reads it
+/// now.
+class ProcessLauncherOfAnotherProgram : public testing::TestWithParam<const char*> {};
+
+TEST_P(ProcessLauncherOfAnotherProgram, TheChildOutlivesIt) {
+    const QTemporaryDir folder;
+    const QString mark = folder.filePath("mark");
+    QProcess program;
+    program.start(builtProgram("program_helper"),
+                  {GetParam(), builtProgram("child_helper") + " outlive \"" + mark + '"'});
+    ASSERT_TRUE(program.waitForFinished(test::kPatienceMs));
+    EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(program.exitCode(), 0) << program.readAllStandardError().toStdString();
+    EXPECT_TRUE(pumpUntil([&] { return QFile::exists(mark); }));
+}
+
+INSTANTIATE_TEST_SUITE_P(, ProcessLauncherOfAnotherProgram,
+                         testing::Values("drop-child-and-end", "end-with-child"));
+
+std::set<QString> openDescriptors() {
+    const QStringList names =
+        QDir("/proc/self/fd").entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System);
+    return {names.begin(), names.end()};
+}
+
+TEST(ProcessLauncher, ManyRunsLeakNoDescriptors) {
+    readAll(*startChild("bytes 10"));
+    QtEventPump().pump();
+    const auto before = openDescriptors();
+    for (int run = 0; run < 500; ++run) {
+        const auto child = startChild("bytes 10");
+        ASSERT_TRUE(child);
+        while (child->running()) {
+            QThread::usleep(200);
+        }
+        ASSERT_EQ(child->read(4096).size(), 10);
+    }
+    QtEventPump().pump();
+    EXPECT_EQ(openDescriptors().size(), before.size());
+}
+
+} // namespace
+} // namespace tarnwell
