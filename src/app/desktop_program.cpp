@@ -1,0 +1,23 @@
+#include "app/desktop_program.h"
+
+#include "ui/qt/application_icon.h"
+
+#include <QGuiApplication>
+
+namespace tarnwell {
+
+DesktopProgram::DesktopProgram()
+    : ports_(view::applicationIcon(), [this] { return mainWindow_.currentScale().pixelsPerTwip(); }),
+      program_(ports_.ports()), mainWindow_(program_.shared().frmMain),
+      statusWindow_(program_.shared().frmStatus.untouched()) {
+    QGuiApplication::setWindowIcon(view::applicationIcon());
+    mainWindow_.hideMinimises = !ports_.tray.available();
+    mainWindow_.restored = [this] { program_.hideAndRestore().restore(); };
+}
+
+int DesktopProgram::run() {
+    program_.start();
+    return ports_.pump.run();
+}
+
+} // namespace tarnwell

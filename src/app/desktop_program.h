@@ -1,0 +1,31 @@
+#pragma once
+
+#include "app/program.h"
+#include "platform/desktop_ports.h"
+#include "ui/qt/main_window_view.h"
+#include "ui/qt/status_window_view.h"
+
+namespace tarnwell {
+
+/// The program with real ports and real windows: the one place where everything meets. To be made after the
+/// QApplication.
+class DesktopProgram {
+public:
+    DesktopProgram();
+
+    /// Shows the main window and serves events until the program ends.
+    int run();
+
+    Program& program() { return program_; }
+    DesktopPorts& ports() { return ports_; }
+    view::MainWindowView& mainWindow() { return mainWindow_; }
+    view::StatusWindowView& statusWindow() { return statusWindow_; }
+
+private:
+    DesktopPorts ports_;
+    Program program_;
+    view::MainWindowView mainWindow_;
+    view::StatusWindowView statusWindow_;
+};
+
+} // namespace tarnwell
