@@ -4,6 +4,7 @@
 #include "ui/qt/list_rows_model.h"
 #include "ui/user_actions.h"
 
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QLineEdit>
@@ -23,6 +24,13 @@ namespace {
 class LabelDelegate final : public QStyledItemDelegate {
 public:
     LabelDelegate(ui::ListView& list, QObject* parent) : QStyledItemDelegate(parent), list_(list) {}
+
+    /// Keeps marks like the plus of the flags on their side of a text where writing runs from right to left.
+    QString displayText(const QVariant& value, const QLocale&) const override {
+        constexpr char16_t kFirstStrongIsolate = 0x2068;
+        const QString text = value.toString();
+        return QGuiApplication::isRightToLeft() ? QChar(kFirstStrongIsolate) + text : text;
+    }
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
         constexpr int kRoomBetweenRows = 4;

@@ -4,6 +4,7 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QTextCursor>
 
@@ -11,13 +12,18 @@ namespace tarnwell::view {
 
 namespace {
 
+bool isClick(QEvent& event) {
+    return event.type() == QEvent::MouseButtonRelease &&
+           static_cast<QMouseEvent&>(event).button() == Qt::LeftButton;
+}
+
 /// What a user does to a box beside changing its text. A read-only box shows no caret in Qt either, so hiding
 /// the caret needs no work here.
 void watchUser(Binding& binding, ui::TextBox& box, QWidget& widget) {
     new EventWatcher(widget, [&binding, &box](QEvent& event) {
         if (event.type() == QEvent::FocusIn && !binding.showing()) {
             ui::focus(box);
-        } else if (event.type() == QEvent::MouseButtonRelease) {
+        } else if (isClick(event)) {
             ui::click(box);
         } else if (event.type() == QEvent::KeyPress) {
             const auto& key = static_cast<QKeyEvent&>(event);
@@ -87,7 +93,7 @@ QWidget* bindSeveralLines(Binding& binding, ui::TextBox& box, QWidget* parent) {
     });
     watchUser(binding, box, *edit);
     new EventWatcher(*edit->viewport(), [&box](QEvent& event) {
-        if (event.type() == QEvent::MouseButtonRelease)
+        if (isClick(event))
             ui::click(box);
         return false;
     });

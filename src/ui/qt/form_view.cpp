@@ -30,7 +30,7 @@ void FormView::start(std::unique_ptr<WindowLayout> layout) {
     layout_ = std::move(layout);
     // The window's limits come from the form's size, not from what the layout asks for.
     QWidget::layout()->setSizeConstraint(QLayout::SetNoConstraint);
-    fitScale();
+    applyScale(neededScale());
     followForm();
 }
 
@@ -48,18 +48,24 @@ void FormView::followForm() {
         showPlace();
     binding().listen(form_.windowState.changed, *this, [this] { showState(); });
     binding().follow(form_.visible.changed, *this, [this] { showVisibility(); });
+    // Showing a window that is up already brings it before the others.
+    form_.visible.assigned = [alive = QPointer(this)](bool changes) {
+        if (alive && !changes)
+            alive->showState();
+    };
 }
 
-void FormView::fitScale() {
+TwipScale FormView::neededScale() const {
     constexpr double kNormal = 1.0 / ui::kTwipsPerPixel;
     const double times = std::max(1.0, layout_->neededPixelsPerTwip() / kNormal);
-    const double pixelsPerTwip = kNormal * std::ceil(times * kScaleSteps) / kScaleSteps;
-    if (pixelsPerTwip != currentScale().pixelsPerTwip() || minimumWidth() == 0) {
-        const Binding::Showing guard(binding());
-        binding().setScale(TwipScale(pixelsPerTwip));
-        layout_->scaleTo(currentScale());
-        showSize();
-    }
+    return TwipScale(kNormal * std::ceil(times * kScaleSteps) / kScaleSteps);
+}
+
+void FormView::applyScale(const TwipScale& scale) {
+    const Binding::Showing guard(binding());
+    binding().setScale(scale);
+    layout_->scaleTo(scale);
+    showSize();
 }
 
 void FormView::showSize() {
@@ -114,8 +120,11 @@ void FormView::showPointer() {
 
 bool FormView::event(QEvent* event) {
     const bool handled = QWidget::event(event);
-    if (event->type() == QEvent::LayoutRequest && layout_)
-        fitScale();
+    if (event->type() == QEvent::LayoutRequest && layout_) {
+        const TwipScale scale = neededScale();
+        if (scale.pixelsPerTwip() != currentScale().pixelsPerTwip())
+            applyScale(scale);
+    }
     return handled;
 }
 

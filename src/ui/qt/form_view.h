@@ -34,7 +34,8 @@ protected:
 private:
     Binding& binding() { return binder_.binding(); }
     void followForm();
-    void fitScale();
+    TwipScale neededScale() const;
+    void applyScale(const TwipScale& scale);
     void showSize();
     void showPlace();
     void showVisibility();

@@ -45,6 +45,7 @@ void MainWindowLayout::layOutWindow(QWidget& window) {
     pagesGrid_->addWidget(widget(form_.fmInstall), 0, 1);
     pagesGrid_->addWidget(widget(form_.fmBrowse), 0, 1);
     pagesGrid_->setColumnStretch(1, 1);
+    widget(form_.fmInstall)->raise();
 
     windowGrid_ = new QGridLayout(&window);
     windowGrid_->addWidget(pages_, 0, 0);
