@@ -3,6 +3,7 @@
 #include "failure.h"
 #include "os.h"
 #include "transfer.h"
+#include "units.h"
 
 #include <algorithm>
 
@@ -11,7 +12,7 @@ namespace simulator {
 namespace {
 
 /// The widest size that the table of games can show.
-constexpr std::uint64_t kLargestGameBytes = std::uint64_t{9'999'999} * 1024;
+constexpr std::uint64_t kLargestGameBytes = 9'999'999 * kKb;
 
 /// "+1+3": entries from 1 to 8.
 void checkFlags(const std::string& flags) {

@@ -1,5 +1,6 @@
 #include "commands.h"
 #include "disc_info.h"
+#include "units.h"
 
 #include <array>
 #include <cstdio>
@@ -8,14 +9,12 @@ namespace simulator {
 
 namespace {
 
-constexpr std::uint64_t kMb = 1024 * 1024;
-
 std::string megabytes(std::uint64_t bytes) {
     return std::to_string((bytes + kMb - 1) / kMb);
 }
 
 std::string kilobytes(std::uint64_t bytes) {
-    return std::to_string((bytes + 1023) / 1024);
+    return std::to_string((bytes + kKb - 1) / kKb);
 }
 
 void printDisks(Output& output, const std::vector<Disk>& disks) {

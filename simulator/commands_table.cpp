@@ -2,6 +2,7 @@
 #include "failure.h"
 #include "os.h"
 #include "pending_file.h"
+#include "units.h"
 
 #include <algorithm>
 
@@ -10,7 +11,7 @@ namespace simulator {
 namespace {
 
 /// Whatever the user points at, no more than this is read into memory.
-constexpr std::uint64_t kLargestTableBytes = 16 * 1024 * 1024;
+constexpr std::uint64_t kLargestTableBytes = 16 * kMb;
 
 } // namespace
 

@@ -4,14 +4,13 @@
 #include "iso9660_writer.h"
 #include "key_value_file.h"
 #include "os.h"
+#include "units.h"
 
 namespace simulator {
 
 namespace fs = std::filesystem;
 
 namespace {
-
-constexpr std::uint64_t kMb = 1024 * 1024;
 
 void addGame(Disk& disk, const std::string& name, const std::string& startup, std::uint64_t megabytes,
              const std::string& flags = {}) {

@@ -12,7 +12,7 @@ namespace simulator {
 namespace {
 
 /// No CD holds more than 99 minutes; no single layer of a DVD more than this many sectors.
-constexpr std::uint64_t kLargestCdBytes = std::uint64_t{99 * 60 * 75} * 2048;
+constexpr std::uint64_t kLargestCdBytes = std::uint64_t{99} * 60 * 75 * 2048;
 constexpr std::uint64_t kLargestLayerBytes = std::uint64_t{2298496} * 2048;
 
 /// "BOOT2 = cdrom0:\SLUS_123.45;1" gives SLUS_123.45.

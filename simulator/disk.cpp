@@ -2,6 +2,7 @@
 
 #include "failure.h"
 #include "key_value_file.h"
+#include "units.h"
 
 #include <algorithm>
 
@@ -49,7 +50,7 @@ std::vector<fs::path> filesIn(const fs::path& folder) {
 } // namespace
 
 long long megabytesTaken(const Game& game) {
-    const auto unitBytes = static_cast<std::uint64_t>(kUnitMb) * 1024 * 1024;
+    const auto unitBytes = static_cast<std::uint64_t>(kUnitMb) * kMb;
     return static_cast<long long>((game.sizeBytes + unitBytes - 1) / unitBytes) * kUnitMb;
 }
 

@@ -19,8 +19,8 @@ constexpr std::uint32_t kBigPathTableSector = 19;
 constexpr std::uint32_t kRootSector = 20;
 constexpr std::uint32_t kFirstFileSector = 21;
 constexpr std::uint32_t kPathTableBytes = 10;
-constexpr std::uint64_t kLargestPayload = std::uint64_t{1} << 30;
-constexpr std::size_t kNoiseBytes = 64 * 1024;
+constexpr std::uint64_t kLargestPayload = 1024 * kMb;
+constexpr std::size_t kNoiseBytes = 64 * kKb;
 
 class Sector {
 public:

@@ -1,6 +1,8 @@
 // Writes small real ISO 9660 images (level 1) that look like game discs.
 #pragma once
 
+#include "units.h"
+
 #include <cstdint>
 #include <filesystem>
 #include <string>
@@ -13,7 +15,7 @@ struct DiscContents {
     std::uint64_t size = 0; ///< in bytes, a multiple of 2048, at least `kSmallestDiscBytes`
 };
 
-inline constexpr std::uint64_t kSmallestDiscBytes = 1024 * 1024;
+inline constexpr std::uint64_t kSmallestDiscBytes = kMb;
 
 /// Writes only what says something: the file ends behind the last byte that is not zero, and holes lie
 /// between. Disc and size agree once the file has been extended to `contents.size`. Throws Failure.

@@ -69,7 +69,7 @@ void KeyValues::merge(const KeyValues& other) {
 std::string KeyValues::toText() const {
     std::string text;
     for (const auto& [key, value] : entries_)
-        text += key + " = " + value + "\n";
+        text.append(key).append(" = ").append(value).append("\n");
     return text;
 }
 

@@ -1,5 +1,4 @@
 // Makes a folder of sample images to play with: real ISO 9660 images that take next to no room.
-#include "failure.h"
 #include "iso9660_writer.h"
 #include "os.h"
 
@@ -8,7 +7,7 @@
 
 namespace {
 
-constexpr std::uint64_t kMb = 1024 * 1024;
+using simulator::kMb;
 
 struct Sample {
     const char* file;

@@ -1,5 +1,7 @@
 #include "transfer.h"
 
+#include "units.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -11,8 +13,7 @@ using std::chrono::steady_clock;
 
 namespace {
 
-constexpr std::size_t kBlockBytes = 256 * 1024;
-constexpr double kBytesPerMb = 1024.0 * 1024.0;
+constexpr std::size_t kBlockBytes = 256 * kKb;
 
 bool allZero(std::span<const char> bytes) {
     return std::all_of(bytes.begin(), bytes.end(), [](char byte) { return byte == 0; });
@@ -62,7 +63,7 @@ std::string Transfer::progressText(int percent) const {
     const double secondsLeft = static_cast<double>(size_ - copied_) / std::max(bytesPerSecond, 1.0);
     std::array<char, 80> text{};
     std::snprintf(text.data(), text.size(), "%3d%%, %.0f min remaining, %.2f MB/sec", percent,
-                  std::ceil(secondsLeft / 60.0), bytesPerSecond / kBytesPerMb);
+                  std::ceil(secondsLeft / 60.0), bytesPerSecond / static_cast<double>(kMb));
     return text.data();
 }
 

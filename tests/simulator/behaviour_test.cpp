@@ -116,7 +116,6 @@ TEST_F(Behaviours, AFloodAndNoiseComeBeforeTheRealOutput) {
     const std::string line = "  0%, 1 min remaining, 1.00 MB/sec\r";
     EXPECT_EQ(output.substr(0, 3 * line.size() + 5), line + line + line + "  0%\r");
 
-    const std::string plain = text({"query", "nothing"});
     behave("binary_noise = 300\n");
     const std::string noisy = text({"query"});
     ASSERT_GT(noisy.size(), 300u);

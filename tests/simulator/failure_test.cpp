@@ -6,7 +6,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::uint64_t kMb = 1024 * 1024;
+using simulator::kMb;
 
 class Failures : public SimulatedTool {
 protected:

@@ -15,7 +15,6 @@ class IsoImages : public SimulatedTool {
 protected:
     static constexpr std::size_t kDescriptor = kFirstDescriptorSector * kSectorBytes;
     static constexpr std::size_t kRoot = 20 * kSectorBytes;
-    static constexpr std::size_t kThirdRecord = kRoot + 34 + 34; // behind the folder itself and its parent
 
     IsoImages() {
         makeImage("good.iso");

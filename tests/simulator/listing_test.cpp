@@ -2,7 +2,7 @@
 
 namespace {
 
-constexpr std::uint64_t kMb = 1024 * 1024;
+using simulator::kMb;
 
 class Listing : public SimulatedTool {};
 

@@ -13,8 +13,6 @@
 #include <thread>
 #include <unistd.h>
 
-extern char** environ;
-
 namespace fs = std::filesystem;
 using namespace std::chrono_literals;
 
@@ -83,7 +81,7 @@ std::string RunningTool::readSome() {
     }
     char buffer[4096];
     const ssize_t got = ::read(pipe_, buffer, sizeof buffer);
-    const std::string piece(buffer, got > 0 ? static_cast<std::size_t>(got) : 0);
+    std::string piece(buffer, got > 0 ? static_cast<std::size_t>(got) : 0);
     text_ += piece;
     return piece;
 }
