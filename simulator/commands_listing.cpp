@@ -22,7 +22,7 @@ void printDisks(Output& output, const std::vector<Disk>& disks) {
         return;
     output.line("Hard disks:");
     for (const Disk& disk : disks) {
-        output.line("\t" + disk.device() + "  " + std::to_string(disk.sizeMb()) + " MB, " +
+        output.line("\t" + disk.device() + "  " + std::to_string(disk.sizeMb()) + "MB, " +
                     (disk.formatted() ? "formatted Playstation 2 HDD" : "unknown format"));
     }
 }

@@ -8,9 +8,9 @@ class Listing : public SimulatedTool {};
 
 TEST_F(Listing, QueryNamesDisksDrivesAndDriveLettersInTheSameOrder) {
     EXPECT_EQ(text({"query"}), "Hard disks:\r\n"
-                               "\thdd1:  1024 MB, formatted Playstation 2 HDD\r\n"
-                               "\thdd2:  1024 MB, formatted Playstation 2 HDD\r\n"
-                               "\thdd3:  2048 MB, unknown format\r\n"
+                               "\thdd1:  1024MB, formatted Playstation 2 HDD\r\n"
+                               "\thdd2:  1024MB, formatted Playstation 2 HDD\r\n"
+                               "\thdd3:  2048MB, unknown format\r\n"
                                "Optical drives:\r\n"
                                "\tcd0:  no disc\r\n"
                                "\tcd1:  1 MB\r\n"
@@ -110,9 +110,9 @@ TEST_F(Listing, UnknownCommandsAndNoneGetTheUsage) {
 TEST_F(Listing, TheFirstStartMakesAWorldWithEveryKindOfDevice) {
     std::filesystem::remove_all(worldFolder());
     const std::string devices = text({"query"});
-    EXPECT_NE(devices.find("\thdd1:  114473 MB, formatted Playstation 2 HDD\r\n"), std::string::npos)
+    EXPECT_NE(devices.find("\thdd1:  114473MB, formatted Playstation 2 HDD\r\n"), std::string::npos)
         << devices;
-    EXPECT_NE(devices.find("\thdd3:  238475 MB, unknown format\r\n"), std::string::npos) << devices;
+    EXPECT_NE(devices.find("\thdd3:  238475MB, unknown format\r\n"), std::string::npos) << devices;
     EXPECT_NE(text({"tarn_toc", "hdd1:"}).find("\r\nDVD 4482048KB +1+3"), std::string::npos);
     EXPECT_NE(text({"tarn_toc", "hdd2:"}).find("available 256MB"), std::string::npos);
     EXPECT_NE(text({"tarn_toc", "hdd3:"}).find("not a PlayStation 2 HDD."), std::string::npos);
