@@ -6,8 +6,9 @@
 
 namespace tarnwell {
 
-DesktopProgram::DesktopProgram()
-    : ports_(view::applicationIcon(), [this] { return mainWindow_.currentScale().pixelsPerTwip(); }),
+DesktopProgram::DesktopProgram(const QtSystemFolders& folders)
+    : ports_(
+          view::applicationIcon(), [this] { return mainWindow_.currentScale().pixelsPerTwip(); }, folders),
       program_(ports_.ports()), mainWindow_(program_.shared().frmMain),
       statusWindow_(program_.shared().frmStatus.untouched()) {
     QGuiApplication::setWindowIcon(view::applicationIcon());

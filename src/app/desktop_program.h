@@ -11,7 +11,7 @@ namespace tarnwell {
 /// QApplication.
 class DesktopProgram {
 public:
-    DesktopProgram();
+    explicit DesktopProgram(const QtSystemFolders& folders = QtSystemFolders());
 
     /// Shows the main window and serves events until the program ends.
     int run();

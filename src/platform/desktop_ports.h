@@ -13,7 +13,8 @@ namespace tarnwell {
 /// Every real port, for the composition root. To be made after the QApplication and to be kept until the
 /// program has ended.
 struct DesktopPorts {
-    DesktopPorts(const QIcon& icon, std::function<double()> pixelsPerTwip);
+    DesktopPorts(const QIcon& icon, std::function<double()> pixelsPerTwip,
+                 QtSystemFolders systemFolders = QtSystemFolders());
 
     Ports ports();
 

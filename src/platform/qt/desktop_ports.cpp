@@ -4,9 +4,10 @@
 
 namespace tarnwell {
 
-DesktopPorts::DesktopPorts(const QIcon& icon, std::function<double()> pixelsPerTwip)
-    : dialogs(pump), tray(icon), windows(std::move(pixelsPerTwip)), processes(native::makeProcesses()),
-      power(native::makePower()), ping(native::makePing()) {}
+DesktopPorts::DesktopPorts(const QIcon& icon, std::function<double()> pixelsPerTwip,
+                           QtSystemFolders systemFolders)
+    : dialogs(pump), tray(icon), folders(std::move(systemFolders)), windows(std::move(pixelsPerTwip)),
+      processes(native::makeProcesses()), power(native::makePower()), ping(native::makePing()) {}
 
 Ports DesktopPorts::ports() {
     return {pump, clock, launcher, *processes, dialogs, tray, *power, *ping, folders, windows};

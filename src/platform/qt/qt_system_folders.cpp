@@ -2,14 +2,12 @@
 
 #include "platform/native.h"
 
-#include <QCoreApplication>
 #include <QDir>
 
 namespace tarnwell {
 
-QString QtSystemFolders::programFolder() const {
-    return QDir::toNativeSeparators(QCoreApplication::applicationDirPath());
-}
+QtSystemFolders::QtSystemFolders(const QString& programFolder)
+    : programFolder_(QDir::toNativeSeparators(programFolder)) {}
 
 QString QtSystemFolders::commandInterpreter() const {
     return native::commandInterpreter();

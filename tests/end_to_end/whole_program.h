@@ -1,0 +1,43 @@
+#pragma once
+
+#include "support/gtest_qt.h"
+#include "tour/user.h"
+#include "tour/workbench.h"
+
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+namespace tarnwell::test {
+
+using tour::User;
+using tour::Workbench;
+
+/// The program as people run it: its windows, its ports, a tool that is a process of its own. A scenario
+/// plays the user.
+class WholeProgram : public testing::Test {
+protected:
+    explicit WholeProgram(const QString& programFolder = "program") : bench(programFolder) {}
+
+    void play(const std::function<void(User&)>& scenario) const;
+
+    // What users do again and again.
+    static void openDisk(User& user);
+    static void openConsole(User& user);
+    void pickImage(User& user, const QString& image) const;
+    static void startInstall(User& user);
+    static void waitForPercent(User& user, int percent);
+
+    /// An image of a game, made by another program. It starts `SLUS_999.99` and holds bytes of all values.
+    QString makeImage(const QString& file = "game.iso", const QString& label = "HARVEST") const;
+    /// Copies a game from the disk to a file, with the tool alone.
+    QByteArray extract(const QString& device, const QString& game) const;
+    QString logged(const QString& command) const;
+
+    static QByteArray contents(const QString& file);
+    static void write(const QString& file, const QByteArray& bytes);
+
+    Workbench bench;
+};
+
+} // namespace tarnwell::test

@@ -1,0 +1,153 @@
+#include "tour/guided_tour.h"
+
+#include "tour/screen_picture.h"
+
+#include <cstdio>
+#include <thread>
+
+namespace tarnwell::tour {
+
+namespace {
+
+const QString kGame = QStringLiteral("Salt and Sand");
+
+/// The dialog for files sorts its list some time after it has opened.
+constexpr std::chrono::milliseconds kDialogSettles{400};
+
+void expect(bool asExpected, const QString& what) {
+    if (!asExpected)
+        throw Stuck("Expected " + what + '.');
+}
+
+bool anyContains(const QStringList& rows, const QString& part) {
+    return !rows.filter(part).isEmpty();
+}
+
+} // namespace
+
+void GuidedTour::play() {
+    user_.look([this] { ConfigWrite("tarnwell", "DefaultISO", samples_, bench_.path("config.cfg")); });
+    tell("start", "The program has started.");
+    readConsole();
+    readDisk();
+    lookAtImage();
+    cancelInstall();
+    completeInstall();
+    lookAtResult();
+}
+
+void GuidedTour::readConsole() {
+    user_.type("txtIP", "127.0.0.1");
+    tell("address", "The address of a console on the network is typed in.");
+    user_.click("cmdAttach");
+    user_.waitUntilIdle();
+    tell("console", "Refresh PS2: the console has told how much room it has.");
+    user_.click("optBrowse");
+    expect(anyContains(user_.rows("lstHD"), "Glass Orchard"), "the games of the console in the list");
+    tell("console-games", "The games on the console.");
+}
+
+void GuidedTour::readDisk() {
+    user_.click("optLocal");
+    user_.waitUntilIdle();
+    expect(user_.entries("cmbHD").size() >= 2, "two disks to choose from");
+    user_.choose("cmbHD", 0);
+    tell("disk", "A disk in the PC is chosen instead.");
+    user_.click("cmdAttach");
+    user_.waitUntilIdle();
+    expect(anyContains(user_.rows("lstHD"), "Marsh Runner"), "the games of the disk in the list");
+    tell("disk-games", "Refresh HDD: the games on the disk.");
+}
+
+void GuidedTour::lookAtImage() {
+    user_.click("optInstall");
+    tell("install-page", "Over to the install page.");
+    user_.click("cmdISO");
+    user_.waitForFileDialog();
+    std::this_thread::sleep_for(kDialogSettles);
+    tell("pick-image", "Browse: which image is to be installed?");
+    user_.pickFile(image_);
+    user_.waitUntilIdle();
+    expect(user_.text("txtGameName") == "SALT_AND_SAND", "the label of the image as the name of the game");
+    expect(user_.text("txtGameStartup") == "SLUS_990.51", "the startup file of the image");
+    tell("image-read", "The image has told its name, startup file, type and size.");
+}
+
+void GuidedTour::cancelInstall() {
+    fillInstallPage();
+    user_.click("cmdCompat");
+    tell("flags", "The game gets a better name and two compatibility flags.");
+    user_.clickMenuEntry("mnuDone");
+    startInstall();
+    waitForPercent(50);
+    tell("before-cancel", "Install Now: half way, and to be cancelled.");
+    user_.click("frmStatus.cmdStop");
+    user_.waitUntilIdle();
+    showWindows();
+    user_.click("optBrowse");
+    expect(!anyContains(user_.rows("lstHD"), kGame), "no half game after the install was cancelled");
+    tell("cancelled", "Cancelled: no half game is left on the disk.");
+}
+
+void GuidedTour::completeInstall() {
+    user_.click("optInstall");
+    fillInstallPage();
+    startInstall();
+    waitForPercent(33);
+    tell("third", "Once more; a third is done.");
+    user_.bringBack("frmMain");
+    user_.moveAside("frmStatus", "frmMain");
+    user_.click("optBrowse");
+    waitForPercent(66);
+    tell("two-thirds", "Two thirds; meanwhile the main window can be looked at, but starts nothing.");
+    user_.waitUntilIdle();
+}
+
+void GuidedTour::lookAtResult() {
+    expect(anyContains(user_.rows("lstHD"), kGame + " | SLUS_990.51 | 0.06GB | CD | +1+3"),
+           "the game in the list with its startup file, size, type and flags");
+    tell("installed", "Done: the game is in the list.");
+    user_.click("chkOutput");
+    user_.waitUntilIdle();
+    tell("activity", "View Tarnwell Activity: the last command and what the tool said.");
+    expect(bench_.run({"tarn_toc", "hdd1:"}).contains(kGame), "the game on the disk");
+}
+
+void GuidedTour::fillInstallPage() {
+    user_.click("cmdISO");
+    user_.pickFile(image_);
+    user_.waitUntilIdle();
+    user_.type("txtGameName", kGame);
+    user_.click("cmdCompat");
+    user_.clickMenuEntry("mnuFlags(0)");
+    user_.clickMenuEntry("mnuFlags(2)");
+    user_.clickMenuEntry("mnuDone");
+}
+
+void GuidedTour::startInstall() {
+    user_.click("cmdInstall");
+    user_.waitFor("the status window", [this] { return user_.windowUp("frmStatus"); });
+}
+
+void GuidedTour::showWindows() {
+    user_.bringBack("frmMain");
+    user_.waitFor("the status window", [this] { return user_.windowUp("frmStatus"); });
+    user_.closeWindow("frmStatus");
+    user_.waitFor("the status window to close", [this] { return !user_.windowUp("frmStatus"); });
+}
+
+void GuidedTour::waitForPercent(int percent) {
+    user_.waitFor(QString::number(percent) + " percent",
+                  [this, percent] { return user_.percent("picOverall") >= percent; });
+}
+
+void GuidedTour::tell(const QString& picture, const QString& words) {
+    const QString file =
+        pictures_.filePath(QStringLiteral("%1-%2.png").arg(++step_, 2, 10, QChar('0')).arg(picture));
+    const QImage seen = user_.look([] { return screenPicture(); });
+    expect(seen.save(file), "to be able to write " + file);
+    std::printf("%2d  %s\n", step_, words.toLocal8Bit().constData());
+    std::fflush(stdout);
+}
+
+} // namespace tarnwell::tour

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "tour/user.h"
+#include "tour/workbench.h"
+
+#include <QDir>
+
+namespace tarnwell::tour {
+
+/// Shows what the program can do: a console and a disk are looked at, a sample image is installed. Each step
+/// leaves a picture and a line of plain words; one that goes otherwise than expected ends the tour.
+class GuidedTour {
+public:
+    GuidedTour(User& user, const Workbench& bench, const QDir& pictures)
+        : user_(user), bench_(bench), pictures_(pictures), samples_(bench.makeSamples()),
+          image_(samples_ + "/cd-game.iso") {}
+
+    void play();
+
+private:
+    void readConsole();
+    void readDisk();
+    void lookAtImage();
+    void cancelInstall();
+    void completeInstall();
+    void lookAtResult();
+
+    void fillInstallPage();
+    void startInstall();
+    /// Both windows hide when an install has ended; the status window comes back with the main window.
+    void showWindows();
+    void waitForPercent(int percent);
+    void tell(const QString& picture, const QString& words);
+
+    User& user_;
+    const Workbench& bench_;
+    const QDir pictures_;
+    const QString samples_, image_;
+    int step_ = 0;
+};
+
+} // namespace tarnwell::tour

@@ -1,0 +1,53 @@
+#include "tour/guided_tour.h"
+
+#include <QApplication>
+
+#include <cstdio>
+
+using namespace tarnwell;
+using namespace tarnwell::tour;
+
+namespace {
+
+/// Slow enough that an install can be watched.
+constexpr char kUnhurried[] = "delay_ms_per_step = 45\n";
+
+/// The toolkit's notes about what a missing screen cannot do are no news here.
+void tellErrorsOnly(QtMsgType type, const QMessageLogContext&, const QString& text) {
+    if (type == QtCriticalMsg || type == QtFatalMsg)
+        std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData());
+}
+
+QString play(const QDir& pictures) {
+    try {
+        const Workbench bench;
+        bench.behave(kUnhurried);
+        DesktopProgram program{QtSystemFolders(bench.folder())};
+        return runWithUser(program, [&](User& user) { GuidedTour(user, bench, pictures).play(); });
+    } catch (const std::exception& error) {
+        return QString::fromLocal8Bit(error.what());
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(tellErrorsOnly);
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    QApplication application(argc, argv);
+    if (argc != 2) {
+        std::fputs("usage: tarnwell-tour PICTURE_FOLDER\n", stderr);
+        return 2;
+    }
+    const QDir pictures(QString::fromLocal8Bit(argv[1]));
+    pictures.mkpath(".");
+    const QString trouble = play(pictures);
+    if (!trouble.isEmpty()) {
+        std::fprintf(stderr, "The tour has ended early: %s\n", trouble.toLocal8Bit().constData());
+        return 1;
+    }
+    std::printf("The pictures lie in %s\n", pictures.absolutePath().toLocal8Bit().constData());
+    return 0;
+}

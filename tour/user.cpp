@@ -1,0 +1,321 @@
+#include "tour/user.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QMouseEvent>
+#include <QPlainTextEdit>
+#include <QPointer>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTreeView>
+
+#include <thread>
+
+namespace tarnwell::tour {
+
+namespace {
+
+constexpr std::chrono::milliseconds kGlanceEvery{10};
+
+QWidget* windowOf(const QString& form) {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->objectName() == form)
+            return window;
+    }
+    return nullptr;
+}
+
+template <class Dialog>
+Dialog* openDialog() {
+    return qobject_cast<Dialog*>(QApplication::activeModalWidget());
+}
+
+/// Option buttons and check boxes take clicks on their left part only.
+QPoint whereToClick(const QWidget& widget) {
+    const bool button = qobject_cast<const QPushButton*>(&widget) != nullptr;
+    const bool marked = qobject_cast<const QAbstractButton*>(&widget) != nullptr && !button;
+    const QPoint centre = widget.rect().center();
+    return marked ? QStyle::visualPos(widget.layoutDirection(), widget.rect(), {centre.y(), centre.y()})
+                  : centre;
+}
+
+void sendMouse(QWidget& widget, QEvent::Type type, const QPoint& place) {
+    const bool moves = type == QEvent::MouseMove;
+    const bool down = type == QEvent::MouseButtonPress;
+    QMouseEvent event(type, place, widget.mapToGlobal(place), moves ? Qt::NoButton : Qt::LeftButton,
+                      down ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(&widget, &event);
+}
+
+void sendClick(QWidget& widget, const QPoint& place) {
+    const QPointer<QWidget> alive = &widget;
+    if (widget.focusPolicy() & Qt::ClickFocus)
+        widget.setFocus(Qt::MouseFocusReason);
+    for (const auto type : {QEvent::MouseMove, QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        if (alive)
+            sendMouse(widget, type, place);
+    }
+}
+
+void sendKey(QWidget& widget, int key, Qt::KeyboardModifiers modifiers = {}, const QString& text = {}) {
+    const QPointer<QWidget> alive = &widget;
+    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(type, key, modifiers, text);
+        if (alive)
+            QApplication::sendEvent(&widget, &event);
+    }
+}
+
+void typeInto(QWidget& widget, const QString& text) {
+    sendKey(widget, Qt::Key_A, Qt::ControlModifier);
+    sendKey(widget, Qt::Key_Delete);
+    for (const QChar letter : text)
+        sendKey(widget, Qt::Key_unknown, {}, letter);
+}
+
+QString captionOf(const QWidget& widget) {
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
+        return button->text();
+    if (const auto* label = qobject_cast<const QLabel*>(&widget))
+        return label->text();
+    if (const auto* edit = qobject_cast<const QLineEdit*>(&widget))
+        return edit->text();
+    if (const auto* edit = qobject_cast<const QPlainTextEdit*>(&widget))
+        return edit->toPlainText();
+    if (const auto* list = qobject_cast<const QComboBox*>(&widget))
+        return list->currentText();
+    if (const auto* frame = qobject_cast<const QGroupBox*>(&widget))
+        return frame->title();
+    if (const auto* bar = qobject_cast<const QProgressBar*>(&widget))
+        return bar->text();
+    return widget.windowTitle();
+}
+
+} // namespace
+
+void User::post(std::function<void()> function) {
+    QMetaObject::invokeMethod(qApp, std::move(function), Qt::QueuedConnection);
+}
+
+void User::act(std::function<void()> gesture) {
+    post([this, gesture = std::move(gesture)] {
+        ++handlersRunning_;
+        gesture();
+        --handlersRunning_;
+    });
+}
+
+QWidget& User::widget(const QString& name) {
+    const QString form = name.section('.', 0, -2), control = name.section('.', -1);
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (!form.isEmpty() && window->objectName() != form)
+            continue;
+        if (window->objectName() == control)
+            return *window;
+        if (auto* found = window->findChild<QWidget*>(control))
+            return *found;
+    }
+    throw Stuck("There is no " + name + '.');
+}
+
+QWidget& User::reachable(const QString& name) {
+    QWidget& target = widget(name);
+    const QWidget* const dialog = QApplication::activeModalWidget();
+    if (dialog && dialog != target.window())
+        throw Stuck(name + " lies behind the dialog: " + captionOf(*dialog));
+    if (!target.isVisible() || target.window()->isMinimized())
+        throw Stuck(name + " is not to be seen.");
+    if (!target.isEnabled())
+        throw Stuck(name + " is greyed out.");
+    const QPoint place = target.mapTo(target.window(), whereToClick(target));
+    const QWidget* const onTop = target.window()->childAt(place);
+    if (onTop != &target && !target.isAncestorOf(onTop))
+        throw Stuck(name + " is covered.");
+    return target;
+}
+
+void User::click(const QString& name) {
+    auto* const target = look([&] { return &reachable(name); });
+    act([target] { sendClick(*target, whereToClick(*target)); });
+}
+
+void User::clickMenuEntry(const QString& entry) {
+    waitFor("an open menu with " + entry, [&] {
+        const QWidget* const menu = QApplication::activePopupWidget();
+        return menu && menu->findChild<QAction*>(entry);
+    });
+    act([entry] {
+        if (auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget()))
+            sendClick(*menu, menu->actionGeometry(menu->findChild<QAction*>(entry)).center());
+    });
+}
+
+void User::type(const QString& name, const QString& text) {
+    click(name);
+    look([&] { typeInto(reachable(name), text); });
+}
+
+void User::pressKey(const QString& name, Qt::Key key) {
+    auto* const target = look([&] { return &reachable(name); });
+    act([target, key] { sendKey(*target, key, {}, key == Qt::Key_Return ? "\r" : QString()); });
+}
+
+void User::choose(const QString& comboBox, int index) {
+    click(comboBox);
+    const auto popup = [] { return QApplication::activePopupWidget(); };
+    waitFor("the open list of " + comboBox, [&] { return popup() && popup()->isVisible(); });
+    auto* const list = look([&] { return static_cast<QComboBox&>(widget(comboBox)).view(); });
+    look([&] {
+        sendKey(*list, Qt::Key_Home);
+        for (int i = 0; i < index; ++i)
+            sendKey(*list, Qt::Key_Down);
+    });
+    act([list] { sendKey(*list, Qt::Key_Return); });
+}
+
+void User::waitForFileDialog() {
+    waitFor("the dialog for files", [] { return openDialog<QFileDialog>() != nullptr; });
+}
+
+void User::pickFile(const QString& path) {
+    waitForFileDialog();
+    auto* const edit = look([] { return openDialog<QFileDialog>()->findChild<QLineEdit*>("fileNameEdit"); });
+    look([&] { typeInto(*edit, path); });
+    act([edit] { sendKey(*edit, Qt::Key_Return, {}, "\r"); });
+    waitFor("the dialog for files to close", [] { return openDialog<QFileDialog>() == nullptr; });
+}
+
+QString User::confirmMessage() {
+    waitFor("a message", [] { return openDialog<QMessageBox>() != nullptr; });
+    auto* const box = look([] { return openDialog<QMessageBox>(); });
+    const QString text = look([&] { return box->text().remove(QChar(0x200B)); });
+    look([&] { sendClick(*box->button(QMessageBox::Ok), box->button(QMessageBox::Ok)->rect().center()); });
+    waitFor("the message to close", [&] { return openDialog<QMessageBox>() != box; });
+    return text;
+}
+
+void User::closeWindow(const QString& form) {
+    auto* const window = look([&] { return windowOf(form); });
+    act([window] { window->close(); });
+}
+
+void User::bringBack(const QString& form) {
+    look([&] { windowOf(form)->showNormal(); });
+}
+
+void User::moveAside(const QString& form, const QString& otherForm) {
+    constexpr QPoint kOverlap(-220, -90);
+    look([&] {
+        windowOf(form)->move(windowOf(otherForm)->geometry().bottomRight() + kOverlap);
+        windowOf(form)->activateWindow();
+    });
+}
+
+bool User::shown(const QString& name) {
+    return look([&] { return widget(name).isVisible() && !widget(name).window()->isMinimized(); });
+}
+
+bool User::enabled(const QString& name) {
+    return look([&] { return widget(name).isEnabled(); });
+}
+
+QString User::text(const QString& name) {
+    return look([&] { return captionOf(widget(name)); });
+}
+
+QStringList User::entries(const QString& comboBox) {
+    return look([&] {
+        const auto& list = static_cast<QComboBox&>(widget(comboBox));
+        QStringList texts;
+        for (int i = 0; i < list.count(); ++i)
+            texts += list.itemText(i);
+        return texts;
+    });
+}
+
+QStringList User::rows(const QString& list) {
+    return look([&] {
+        const QAbstractItemModel& model = *static_cast<QTreeView&>(widget(list)).model();
+        QStringList texts;
+        for (int row = 0; row < model.rowCount(); ++row) {
+            QStringList columns;
+            for (int column = 0; column < model.columnCount(); ++column)
+                columns += model.index(row, column).data().toString();
+            texts += columns.join(" | ");
+        }
+        return texts;
+    });
+}
+
+int User::percent(const QString& bar) {
+    return look([&] { return static_cast<QProgressBar&>(widget(bar)).value(); });
+}
+
+bool User::windowUp(const QString& form) {
+    return look([&] {
+        const QWidget* const window = windowOf(form);
+        return window && window->isVisible() && !window->isMinimized();
+    });
+}
+
+bool User::messageUp() {
+    return look([] { return openDialog<QMessageBox>() != nullptr; });
+}
+
+void User::waitFor(const QString& what, const std::function<bool()>& seen) {
+    const auto giveUp = std::chrono::steady_clock::now() + kPatience;
+    while (!look(seen)) {
+        if (std::chrono::steady_clock::now() > giveUp)
+            throw Stuck("Waited in vain for " + what + '.');
+        std::this_thread::sleep_for(kGlanceEvery);
+    }
+}
+
+void User::waitForText(const QString& name, const QString& text) {
+    waitFor(name + " to show \"" + text + '"', [&] { return captionOf(widget(name)) == text; });
+}
+
+void User::waitUntilIdle() {
+    waitFor("the program to be done", [this] { return handlersRunning_ == 0; });
+}
+
+QString runWithUser(DesktopProgram& program, const std::function<void(User&)>& scenario) {
+    QString trouble;
+    bool done = false;
+    User user(program);
+    std::thread person([&] {
+        try {
+            user.waitFor("the main window", [] {
+                const QWidget* const window = windowOf("frmMain");
+                return window && window->isVisible();
+            });
+            scenario(user);
+        } catch (const std::exception& error) {
+            trouble = QString::fromStdString(error.what());
+        }
+        QMetaObject::invokeMethod(
+            qApp,
+            [&] {
+                done = true;
+                if (!program.ports().pump.ended())
+                    program.ports().pump.end();
+            },
+            Qt::QueuedConnection);
+    });
+    program.run();
+    // The program may end before its user has seen enough.
+    while (!done)
+        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+    person.join();
+    return trouble;
+}
+
+} // namespace tarnwell::tour

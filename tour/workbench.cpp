@@ -1,0 +1,65 @@
+#include "tour/workbench.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+
+#include <stdexcept>
+
+namespace tarnwell::tour {
+
+namespace {
+
+constexpr int kPatienceMs = 60'000;
+
+[[noreturn]] void fail(const QString& why) {
+    throw std::runtime_error(why.toStdString());
+}
+
+} // namespace
+
+Workbench::Workbench(const QString& name) : folder_(scratch_.filePath(name)) {
+    const QString original = builtProgram("tarnwell.exe");
+    if (!QDir().mkpath(folder_) || !QFile::copy(original, tool()))
+        fail("Could not copy " + original + " into " + folder_ + '.');
+    run({"query"}); // makes the world
+}
+
+void Workbench::behave(const QString& lines) const {
+    QFile file(path("tarnwell-simulator/behaviour.txt"));
+    if (!file.open(QFile::WriteOnly) || file.write(lines.toLocal8Bit()) < 0)
+        fail("Could not write " + file.fileName() + '.');
+}
+
+QString Workbench::log() const {
+    QFile file(path("tarnwell-simulator/log.txt"));
+    return file.open(QFile::ReadOnly) ? QString::fromLocal8Bit(file.readAll()) : QString();
+}
+
+QString Workbench::run(const QStringList& arguments) const {
+    return runToEnd(tool(), arguments, folder_);
+}
+
+QString Workbench::makeSamples() const {
+    const QString samples = path("samples");
+    runToEnd(builtProgram("tarnwell-samples"), {samples});
+    return samples;
+}
+
+QString builtProgram(const QString& name) {
+    return QCoreApplication::applicationDirPath() + '/' + name;
+}
+
+QString runToEnd(const QString& program, const QStringList& arguments, const QString& folder) {
+    QProcess process;
+    process.setWorkingDirectory(folder);
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start(program, arguments);
+    if (!process.waitForFinished(kPatienceMs) || process.exitStatus() != QProcess::NormalExit ||
+        process.exitCode() != 0)
+        fail(program + ' ' + arguments.join(' ') + " failed: " + process.readAll());
+    return QString::fromLocal8Bit(process.readAll());
+}
+
+} // namespace tarnwell::tour
