@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QFile>
+#include <QWidget>
+
+#include <chrono>
+#include <cstdio>
+
+namespace tarnwell::bench {
+
+/// Nanoseconds of a clock that all processes share.
+inline double now() {
+    return static_cast<double>(std::chrono::steady_clock::now().time_since_epoch().count());
+}
+
+inline double residentKilobytes() {
+    QFile status("/proc/self/status");
+    if (!status.open(QIODevice::ReadOnly))
+        return 0;
+    const QByteArray text = status.readAll();
+    const QByteArray label = "VmRSS:";
+    return text.mid(text.indexOf(label) + label.size()).trimmed().split(' ').constFirst().toDouble();
+}
+
+/// Prints the time and the memory in use as soon as the window and what is in it have been painted for the
+/// first time, and ends the event loop.
+class FirstPaint final : public QObject {
+public:
+    explicit FirstPaint(QWidget& window) { window.installEventFilter(this); }
+
+    bool eventFilter(QObject* window, QEvent* event) override {
+        if (event->type() == QEvent::Paint) {
+            window->removeEventFilter(this);
+            // The widgets inside are painted right after the window, before any other event.
+            QMetaObject::invokeMethod(
+                this,
+                [] {
+                    std::printf("%.0f %.0f\n", now(), residentKilobytes());
+                    QCoreApplication::exit();
+                },
+                Qt::QueuedConnection);
+        }
+        return false;
+    }
+};
+
+} // namespace tarnwell::bench

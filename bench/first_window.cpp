@@ -1,0 +1,55 @@
+#include "app/desktop_program.h"
+#include "first_paint.h"
+#include "measurements.h"
+
+namespace tarnwell::bench {
+
+namespace {
+
+struct Starts {
+    std::vector<double> milliseconds, megabytes;
+
+    template <class Start>
+    void add(Start start) {
+        constexpr double kNanosecondsPerMillisecond = 1e6, kKilobytesPerMegabyte = 1024;
+        const double begin = now();
+        const std::vector<double> figures = start();
+        if (figures.size() != 2)
+            return;
+        milliseconds.push_back((figures[0] - begin) / kNanosecondsPerMillisecond);
+        megabytes.push_back(figures[1] / kKilobytesPerMegabyte);
+    }
+};
+
+} // namespace
+
+void measureFirstWindow(const FreshProcesses& processes, const Effort& effort, Report& report) {
+    const auto startProgram = [&] { return processes.child("first-window"); };
+    const auto startBare = [&] { return processes.bareWindow(); };
+    // Once beforehand: files come into memory, and the program has settings.
+    startProgram();
+    startBare();
+    Starts program, bare;
+    for (int i = 0; i < effort.starts; ++i) {
+        program.add(startProgram);
+        bare.add(startBare);
+    }
+    report.add({.what = "Start to the first painted window",
+                .measured = median(program.milliseconds),
+                .unit = "ms",
+                .against = median(bare.milliseconds),
+                .atMost = 2});
+    report.add({.what = "Memory in use by then",
+                .measured = median(program.megabytes),
+                .unit = "MB",
+                .against = median(bare.megabytes),
+                .atMost = 1.6});
+}
+
+void firstWindow(int) {
+    DesktopProgram program;
+    const FirstPaint firstPaint(program.mainWindow());
+    program.run();
+}
+
+} // namespace tarnwell::bench

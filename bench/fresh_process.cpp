@@ -1,0 +1,62 @@
+#include "fresh_process.h"
+
+#include "app/desktop_program.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QProcess>
+#include <QTimer>
+
+#include <cstdio>
+
+namespace tarnwell::bench {
+
+namespace {
+constexpr int kLongestRunMs = 60'000;
+}
+
+FreshProcesses::FreshProcesses() {
+    const QString here = QCoreApplication::applicationDirPath() + '/';
+    QFile::copy(QCoreApplication::applicationFilePath(), folder_.filePath("bench"));
+    QFile::copy(here + "bench_bare_window", folder_.filePath("bare-window"));
+    QFile::copy(here + "bench_scripted_tool", folder_.filePath("tarnwell.exe"));
+}
+
+std::vector<double> FreshProcesses::child(const QString& act, const QStringList& arguments) const {
+    return run("bench", QStringList{"--child", act} + arguments);
+}
+
+std::vector<double> FreshProcesses::bareWindow() const {
+    return run("bare-window", {});
+}
+
+std::vector<double> FreshProcesses::run(const QString& program, const QStringList& arguments) const {
+    QProcess process;
+    process.start(folder_.filePath(program), arguments);
+    if (!process.waitForFinished(kLongestRunMs) || process.exitStatus() != QProcess::NormalExit ||
+        process.exitCode() != 0) {
+        std::fputs(process.readAllStandardError().constData(), stderr);
+        return {};
+    }
+    std::vector<double> figures;
+    for (const QByteArray& word : process.readAllStandardOutput().simplified().split(' '))
+        figures.push_back(word.toDouble());
+    return figures;
+}
+
+void inProgram(const std::function<void(DesktopProgram&)>& work) {
+    DesktopProgram program;
+    QTimer::singleShot(0, [&] {
+        work(program);
+        program.ports().pump.end();
+    });
+    program.run();
+}
+
+void tell(const std::vector<double>& figures) {
+    for (const double figure : figures)
+        std::printf("%.0f ", figure);
+    std::printf("\n");
+}
+
+} // namespace tarnwell::bench

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <functional>
+#include <vector>
+
+namespace tarnwell {
+class DesktopProgram;
+}
+
+namespace tarnwell::bench {
+
+/// Starts copies of the benchmark in a folder of their own, where the scripted tool lies beside them by the
+/// name of the real one: the program looks for its tool and keeps its settings where it lies itself.
+class FreshProcesses {
+public:
+    FreshProcesses();
+
+    /// The numbers that the benchmark prints as the child `act`; none if it failed.
+    std::vector<double> child(const QString& act, const QStringList& arguments = {}) const;
+    std::vector<double> bareWindow() const;
+
+private:
+    std::vector<double> run(const QString& program, const QStringList& arguments) const;
+
+    QTemporaryDir folder_;
+};
+
+/// In such a child: opens the program's main window, runs `work` in an event handler, and ends the program.
+void inProgram(const std::function<void(DesktopProgram&)>& work);
+
+/// Hands numbers to the process that has started this one.
+void tell(const std::vector<double>& figures);
+
+} // namespace tarnwell::bench

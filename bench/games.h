@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+
+namespace tarnwell::bench {
+
+/// The tool's table of so many games, one in three on CD.
+inline QString gameTable(int games) {
+    QString text = "type   size flags          dma startup      name\r\n";
+    for (int i = 0; i < games; ++i) {
+        const bool cd = i % 3 == 0;
+        text += QString::asprintf("%-4s%7dKB %-15sSLUS_%03d.%02d   The Long Title of Game %d\r\n",
+                                  cd ? "CD" : "DVD", cd ? 716800 : 4193280, cd ? "+1+3" : "", i / 100 % 1000,
+                                  i % 100, i);
+    }
+    return text + "total 114473MB, used 26712MB, available 87761MB\r\n";
+}
+
+} // namespace tarnwell::bench

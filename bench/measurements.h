@@ -1,0 +1,30 @@
+#pragma once
+
+#include "fresh_process.h"
+#include "report.h"
+
+/// One file a measurement. Each has a part that reports, and one that runs in a fresh process, the child.
+namespace tarnwell::bench {
+
+/// How much of each is done.
+struct Effort {
+    int starts;
+    int progressSeconds;
+    int commands;
+    int rounds;
+};
+
+void measureFirstWindow(const FreshProcesses& processes, const Effort& effort, Report& report);
+void measureProgressLoad(const FreshProcesses& processes, const Effort& effort, Report& report);
+void measureCommandDelay(const FreshProcesses& processes, const Effort& effort, Report& report);
+void measureInterpreterSpeed(const FreshProcesses& processes, const Effort& effort, Report& report);
+void measureGameList(const FreshProcesses& processes, const Effort& effort, Report& report);
+
+/// The children; `argument` is the part of the effort that concerns them.
+void firstWindow(int argument);
+void progressLoad(int seconds);
+void commandDelay(int commands);
+void interpreterSpeed(int rounds);
+void gameList(int rounds);
+
+} // namespace tarnwell::bench

@@ -1,0 +1,38 @@
+/// Stands in for the tool where its timing must be known exactly:
+///   progress LINES-PER-SECOND SECONDS   prints progress lines, evenly spread
+///   farewell MILLISECONDS               lives so long, prints the time in nanoseconds, and is gone
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <string_view>
+#include <thread>
+
+using Clock = std::chrono::steady_clock;
+
+static void progress(int linesPerSecond, int seconds) {
+    auto next = Clock::now();
+    for (int i = 0; i < linesPerSecond * seconds; ++i) {
+        std::printf("%3d%%, %d min remaining, %d.%02d MB/sec\r", i / 10 % 100, i / 50 % 60, i % 4, i % 100);
+        std::fflush(stdout);
+        next += std::chrono::nanoseconds(std::chrono::seconds(1)) / linesPerSecond;
+        std::this_thread::sleep_until(next);
+    }
+}
+
+static void farewell(int milliseconds) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+    std::printf("%lld\n", static_cast<long long>(Clock::now().time_since_epoch().count()));
+    std::fflush(stdout);
+    std::_Exit(0);
+}
+
+int main(int argc, char** argv) {
+    if (argc == 4 && argv[1] == std::string_view("progress"))
+        progress(std::atoi(argv[2]), std::atoi(argv[3]));
+    else if (argc == 3 && argv[1] == std::string_view("farewell"))
+        farewell(std::atoi(argv[2]));
+    else
+        return 2;
+    return 0;
+}
