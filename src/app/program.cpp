@@ -22,8 +22,8 @@ Program::Program(const Ports& ports)
     : shared_(ports), dispatcher_(shared_), StdIO_(shared_), interpreter_(shared_),
       channel_(shared_, StdIO_, interpreter_), guiSwitch_(shared_.frmMain), navigation_(shared_),
       hideAndRestore_(shared_), exit_(shared_, StdIO_), statusWindow_(shared_, StdIO_),
-      completionActions_(shared_, channel_), deviceSelection_(shared_, channel_, interpreter_),
-      installSource_(shared_, channel_, interpreter_),
+      completionActions_(shared_, channel_), jobList_(shared_),
+      deviceSelection_(shared_, channel_, interpreter_), installSource_(shared_, channel_, interpreter_),
       installNow_(shared_, channel_, StdIO_, guiSwitch_, completionActions_) {
     const auto dispatch = [this](const std::function<void()>& handler) { dispatcher_.dispatch(handler); };
     shared_.frmMain.dispatcher = dispatch;

@@ -8,6 +8,7 @@
 #include "app/shared.h"
 #include "interpreter/output_interpreter.h"
 #include "queue/completion_actions.h"
+#include "queue/job_list.h"
 #include "queue/status_window.h"
 #include "tool/std_io.h"
 #include "tool/tool_channel.h"
@@ -44,6 +45,7 @@ private:
     Exit exit_;
     StatusWindow statusWindow_;
     CompletionActions completionActions_;
+    JobList jobList_;
     DeviceSelection deviceSelection_;
     InstallSource installSource_;
     InstallNow installNow_;

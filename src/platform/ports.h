@@ -99,6 +99,9 @@ public:
     virtual ~Dialogs() = default;
     /// A plain text with one OK button.
     virtual void message(const QString& text, MessageIcon icon, const QString& title) = 0;
+    /// A line for the user to write, filled with `text`. What stands in it on OK; nothing on Cancel.
+    virtual std::optional<QString> input(const QString& prompt, const QString& title,
+                                         const QString& text) = 0;
     /// The chosen path in the platform's own form; nothing if the user cancelled.
     virtual std::optional<QString> openFile(const OpenFileRequest& request) = 0;
 };

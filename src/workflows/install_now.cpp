@@ -26,7 +26,7 @@ void InstallNow::install() {
     if (!EnoughFreeSpace(shared_))
         return;
     const Game game = readPage();
-    balloon("Installing " + game.name);
+    shared_.balloon("Installing " + game.name);
     guiSwitch_.EnableGUI(false);
     openStatus(game.name);
     shared_.frmMain.cmdMinimize.Click();
@@ -78,7 +78,7 @@ void InstallNow::run(const Game& game) {
     shared_.blnJobDone = false;
     shared_.blnJobStopped = false;
     shared_.lJobStartTick = shared_.ports.clock.tickCount();
-    balloon("Installing [" + game.name + "] to [" + game.device + "]");
+    shared_.balloon("Installing [" + game.name + "] to [" + game.device + "]");
     channel_.Tarn_Command(game.command);
     if (shared_.blnInstallRunning && shared_.blnJobStopped)
         WaitForStoppedTool(StdIO_, shared_.ports.pump);
@@ -92,7 +92,7 @@ void InstallNow::finish(const Game& game) {
     guiSwitch_.EnableGUI(true);
     TrayTip(shared_.ports.tray, shared_.title);
     if (!shared_.blnJobStopped) {
-        balloon("Installation of " + game.name + " complete!");
+        shared_.balloon("Installation of " + game.name + " complete!");
         completionActions_.afterInstall();
     }
     refreshGameList();
@@ -102,11 +102,6 @@ void InstallNow::refreshGameList() {
     const ui::FrmMain& frmMain = shared_.frmMain;
     if (!frmMain.optLAN.value || PingConsole(frmMain.txtIP.text, shared_.ports.ping) != kNoAnswer)
         frmMain.cmdAttach.Click();
-}
-
-void InstallNow::balloon(const QString& text) {
-    if (shared_.config.number("BalloonTips") == 0)
-        TrayBalloon(shared_.ports.tray, text);
 }
 
 } // namespace tarnwell

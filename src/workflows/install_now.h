@@ -24,7 +24,6 @@ private:
     void run(const Game& game);
     void finish(const Game& game);
     void refreshGameList();
-    void balloon(const QString& text);
 
     Shared& shared_;
     ToolChannel& channel_;

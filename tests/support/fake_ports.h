@@ -125,6 +125,11 @@ public:
     explicit FakeDialogs(const FakeEventPump& pump) : pump_(pump) {}
 
     std::vector<Message> messages;
+    struct Input {
+        QString prompt, title, text;
+    };
+    std::vector<Input> inputs;
+    std::deque<std::optional<QString>> inputAnswers; ///< used up one by one; then the user cancels
     std::vector<OpenFileRequest> openFileRequests;
     std::deque<std::optional<QString>> openFileAnswers; ///< used up one by one; then the user cancels
     std::function<void()> whileOpen;                    ///< what happens while a box is open
@@ -132,6 +137,7 @@ public:
     QStringList messageTexts() const;
 
     void message(const QString& text, MessageIcon icon, const QString& title) override;
+    std::optional<QString> input(const QString& prompt, const QString& title, const QString& text) override;
     std::optional<QString> openFile(const OpenFileRequest& request) override;
 
 private:
