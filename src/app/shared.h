@@ -33,6 +33,8 @@ struct Shared {
 
     bool jobRunning() const { return blnQueueRunning || blnInstallRunning; }
     void message(const QString& text, MessageIcon icon = MessageIcon::Exclamation);
+    /// Unless the user has turned the tray's balloons off.
+    void balloon(const QString& text);
 };
 
 } // namespace tarnwell

@@ -99,6 +99,9 @@ public:
     virtual ~Dialogs() = default;
     /// A plain text with one OK button.
     virtual void message(const QString& text, MessageIcon icon, const QString& title) = 0;
+    /// A line for the user to write, filled with `text`. What stands in it on OK; nothing on Cancel.
+    virtual std::optional<QString> input(const QString& prompt, const QString& title,
+                                         const QString& text) = 0;
     /// The chosen path in the platform's own form; nothing if the user cancelled.
     virtual std::optional<QString> openFile(const OpenFileRequest& request) = 0;
 };
@@ -115,6 +118,13 @@ public:
     /// What the user does to the icon; attached by the program before `add`.
     std::function<void()> doubleClicked;
     std::function<void()> rightClicked;
+};
+
+class Sound {
+public:
+    virtual ~Sound() = default;
+    /// Starts a wave file in place of what still sounds, and returns at once. Silent if it cannot be played.
+    virtual void play(const QString& path) = 0;
 };
 
 class Power {
@@ -166,6 +176,7 @@ struct Ports {
     Processes& processes;
     Dialogs& dialogs;
     Tray& tray;
+    Sound& sound;
     Power& power;
     Ping& ping;
     SystemFolders& folders;

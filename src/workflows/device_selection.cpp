@@ -189,4 +189,10 @@ void DeviceSelection::resetSpace() {
     shared_.frmMain.lblDiskSpace.caption = kNoDevice;
 }
 
+void RefreshAfterWork(Shared& shared) {
+    const ui::FrmMain& frmMain = shared.frmMain;
+    if (!frmMain.optLAN.value || PingConsole(frmMain.txtIP.text, shared.ports.ping) != kNoAnswer)
+        frmMain.cmdAttach.Click();
+}
+
 } // namespace tarnwell

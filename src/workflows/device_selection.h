@@ -36,4 +36,7 @@ private:
     OutputInterpreter& interpreter_;
 };
 
+/// At the end of work: reads the list of games again, unless the console no longer answers.
+void RefreshAfterWork(Shared& shared);
+
 } // namespace tarnwell

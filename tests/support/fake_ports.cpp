@@ -11,6 +11,14 @@ namespace {
 constexpr int kSecondsADay = 24 * 60 * 60;
 constexpr int kPatience = 1'000'000;
 
+std::optional<QString> take(std::deque<std::optional<QString>>& answers) {
+    if (answers.empty())
+        return std::nullopt;
+    const std::optional<QString> answer = answers.front();
+    answers.pop_front();
+    return answer;
+}
+
 /// The program's own end of a child.
 class ChildHandle : public ChildProcess {
 public:
@@ -167,14 +175,16 @@ void FakeDialogs::message(const QString& text, MessageIcon icon, const QString& 
     waitForUser();
 }
 
+std::optional<QString> FakeDialogs::input(const QString& prompt, const QString& title, const QString& text) {
+    inputs.push_back({prompt, title, text});
+    waitForUser();
+    return take(inputAnswers);
+}
+
 std::optional<QString> FakeDialogs::openFile(const OpenFileRequest& request) {
     openFileRequests.push_back(request);
     waitForUser();
-    if (openFileAnswers.empty())
-        return std::nullopt;
-    const std::optional<QString> answer = openFileAnswers.front();
-    openFileAnswers.pop_front();
-    return answer;
+    return take(openFileAnswers);
 }
 
 void FakeDialogs::waitForUser() const {

@@ -125,6 +125,11 @@ public:
     explicit FakeDialogs(const FakeEventPump& pump) : pump_(pump) {}
 
     std::vector<Message> messages;
+    struct Input {
+        QString prompt, title, text;
+    };
+    std::vector<Input> inputs;
+    std::deque<std::optional<QString>> inputAnswers; ///< used up one by one; then the user cancels
     std::vector<OpenFileRequest> openFileRequests;
     std::deque<std::optional<QString>> openFileAnswers; ///< used up one by one; then the user cancels
     std::function<void()> whileOpen;                    ///< what happens while a box is open
@@ -132,6 +137,7 @@ public:
     QStringList messageTexts() const;
 
     void message(const QString& text, MessageIcon icon, const QString& title) override;
+    std::optional<QString> input(const QString& prompt, const QString& title, const QString& text) override;
     std::optional<QString> openFile(const OpenFileRequest& request) override;
 
 private:
@@ -161,6 +167,13 @@ public:
         balloons.push_back({title, text});
     }
     void remove() override { shown = false; }
+};
+
+class FakeSound : public Sound {
+public:
+    QStringList played;
+
+    void play(const QString& path) override { played += path; }
 };
 
 class FakePower : public Power {
@@ -213,12 +226,15 @@ struct FakePorts {
     FakeProcesses processes{launcher, clock};
     FakeDialogs dialogs{pump};
     FakeTray tray;
+    FakeSound sound;
     FakePower power;
     FakePing ping;
     FakeSystemFolders folders;
     FakeWindowManager windows;
 
-    Ports ports() { return {pump, clock, launcher, processes, dialogs, tray, power, ping, folders, windows}; }
+    Ports ports() {
+        return {pump, clock, launcher, processes, dialogs, tray, sound, power, ping, folders, windows};
+    }
 };
 
 } // namespace tarnwell::test

@@ -7,10 +7,11 @@ namespace tarnwell {
 DesktopPorts::DesktopPorts(const QIcon& icon, std::function<double()> pixelsPerTwip,
                            QtSystemFolders systemFolders)
     : dialogs(pump), tray(icon), folders(std::move(systemFolders)), windows(std::move(pixelsPerTwip)),
-      processes(native::makeProcesses()), power(native::makePower()), ping(native::makePing()) {}
+      processes(native::makeProcesses()), sound(native::makeSound()), power(native::makePower()),
+      ping(native::makePing()) {}
 
 Ports DesktopPorts::ports() {
-    return {pump, clock, launcher, *processes, dialogs, tray, *power, *ping, folders, windows};
+    return {pump, clock, launcher, *processes, dialogs, tray, *sound, *power, *ping, folders, windows};
 }
 
 } // namespace tarnwell

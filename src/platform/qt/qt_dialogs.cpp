@@ -6,6 +6,8 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QFontMetrics>
+#include <QInputDialog>
 #include <QMessageBox>
 
 namespace tarnwell {
@@ -29,6 +31,18 @@ void QtDialogs::message(const QString& text, MessageIcon icon, const QString& ti
     box.setTextFormat(Qt::PlainText);
     box.setDetailedText(fitted.whole);
     waitFor(box);
+}
+
+std::optional<QString> QtDialogs::input(const QString& prompt, const QString& title, const QString& text) {
+    constexpr int kCharacters = 80; // much of a usual command is in sight
+    QInputDialog box(windowOfTheUser());
+    box.setWindowTitle(title);
+    box.setLabelText(prompt);
+    box.setTextValue(text);
+    box.resize(box.fontMetrics().averageCharWidth() * kCharacters, box.sizeHint().height());
+    if (waitFor(box) != QDialog::Accepted)
+        return std::nullopt;
+    return box.textValue();
 }
 
 std::optional<QString> QtDialogs::openFile(const OpenFileRequest& request) {

@@ -12,6 +12,7 @@ public:
     explicit QtDialogs(const QtEventPump& pump) : pump_(pump) {}
 
     void message(const QString& text, MessageIcon icon, const QString& title) override;
+    std::optional<QString> input(const QString& prompt, const QString& title, const QString& text) override;
     std::optional<QString> openFile(const OpenFileRequest& request) override;
 
 private:

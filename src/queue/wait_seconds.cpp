@@ -1,0 +1,18 @@
+#include "queue/wait_seconds.h"
+
+#include "platform/ports.h"
+
+namespace tarnwell {
+
+namespace {
+constexpr int kLookAgainMilliseconds = 30;
+}
+
+void WaitSeconds(double delay, const Ports& ports) {
+    const double start = ports.clock.secondsSinceMidnight();
+    do {
+        ports.pump.waitForEvent(kLookAgainMilliseconds);
+    } while (ports.clock.secondsSinceMidnight() - start < delay);
+}
+
+} // namespace tarnwell
