@@ -284,7 +284,11 @@ void User::waitForText(const QString& name, const QString& text) {
 }
 
 void User::waitUntilIdle() {
-    waitFor("the program to be done", [this] { return handlersRunning_ == 0; });
+    waitFor("the program to be done", [this] {
+        if (const auto* const message = openDialog<QMessageBox>())
+            throw Stuck("A message is in the way: " + message->text());
+        return handlersRunning_ == 0;
+    });
 }
 
 QString runWithUser(DesktopProgram& program, const std::function<void(User&)>& scenario) {

@@ -98,7 +98,7 @@ TEST_F(CancelledInstall, OnceMoreAfterTheFirst) {
 
 TEST_F(CancelledInstall, TheProgramWaitsForAToolThatTakesItsTime) {
     play([&](User& user) {
-        prepare(user, "delay_ms_per_step = 20\nignore_interrupt = yes\n");
+        prepare(user, "delay_ms_per_step = 10\nignore_interrupt = yes\n");
         waitForPercent(user, 30);
         cancel(user);
         EXPECT_TRUE(bench.log().contains("< done")) << "the tool had not ended";
