@@ -94,7 +94,10 @@ void InstallSource::browse() {
 
 void InstallSource::readImage(const QString& path) {
     clearCompatibilityFlags(shared_.frmMain);
-    shared_.frmMain.txtISO.text = path;
+    ui::TextBox& txtISO = shared_.frmMain.txtISO;
+    txtISO.text = path;
+    // The end of a long path, the name of the file, is what the user wants to see of it.
+    txtISO.selectionStart = static_cast<int>(path.size());
     shared_.blnDiscInfo = true;
     try {
         askForDiscInfo(ImageInfoCommand(path));

@@ -50,6 +50,11 @@ TEST_F(InstallSource, PickingAnImageFillsThePage) {
     EXPECT_EQ(frmMain.mousePointer, ui::MousePointer::Default);
 }
 
+TEST_F(InstallSource, ALongPathShowsItsEnd) {
+    pick("/games/" + QString(300, 'x') + "/My Game.iso");
+    EXPECT_EQ(frmMain.txtISO.selectionStart, frmMain.txtISO.text.get().size());
+}
+
 TEST_F(InstallSource, TheFileDialogStartsInTheFolderOfTheSettings) {
     store("DefaultISO", "/games/");
     pick("/games/a.iso");
