@@ -2,6 +2,8 @@
 
 #include "platform/ports.h"
 
+#include <cmath>
+
 namespace tarnwell {
 
 namespace {
@@ -12,7 +14,7 @@ void WaitSeconds(double delay, const Ports& ports) {
     const double start = ports.clock.secondsSinceMidnight();
     do {
         ports.pump.waitForEvent(kLookAgainMilliseconds);
-    } while (ports.clock.secondsSinceMidnight() - start < delay);
+    } while (std::abs(ports.clock.secondsSinceMidnight() - start) < delay);
 }
 
 } // namespace tarnwell

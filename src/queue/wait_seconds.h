@@ -4,8 +4,8 @@ namespace tarnwell {
 
 struct Ports;
 
-/// Lets events in until the time of day is `delay` seconds later than it was. Nothing guards against
-/// midnight: a wait across it does not end by itself.
+/// Lets events in until the time of day differs by `delay` seconds from what it was. A wait that meets
+/// midnight ends there.
 void WaitSeconds(double delay, const Ports& ports);
 
 } // namespace tarnwell
