@@ -22,7 +22,8 @@ Program::Program(const Ports& ports)
     : shared_(ports), dispatcher_(shared_), StdIO_(shared_), interpreter_(shared_),
       channel_(shared_, StdIO_, interpreter_), guiSwitch_(shared_.frmMain), navigation_(shared_),
       hideAndRestore_(shared_), exit_(shared_, StdIO_), statusWindow_(shared_, StdIO_),
-      completionActions_(shared_, channel_), jobList_(shared_),
+      completionActions_(shared_, channel_), sounds_(shared_), jobList_(shared_), addGame_(shared_, jobList_),
+      queueRunner_(shared_, channel_, StdIO_, guiSwitch_, completionActions_, sounds_),
       deviceSelection_(shared_, channel_, interpreter_), installSource_(shared_, channel_, interpreter_),
       installNow_(shared_, channel_, StdIO_, guiSwitch_, completionActions_) {
     const auto dispatch = [this](const std::function<void()>& handler) { dispatcher_.dispatch(handler); };
@@ -37,6 +38,7 @@ void Program::start() {
         if (!shared_.config.exists())
             shared_.config.WriteDefaultConfig();
         shared_.frmMain.load();
+        sounds_.load();
         TrayAdd(shared_.ports.tray, shared_.title);
         shared_.frmMain.txtOutput.caretVisible = false;
         layOutMain();

@@ -7,8 +7,11 @@
 #include "app/navigation.h"
 #include "app/shared.h"
 #include "interpreter/output_interpreter.h"
+#include "queue/add_game.h"
 #include "queue/completion_actions.h"
 #include "queue/job_list.h"
+#include "queue/queue_runner.h"
+#include "queue/sounds.h"
 #include "queue/status_window.h"
 #include "tool/std_io.h"
 #include "tool/tool_channel.h"
@@ -45,7 +48,10 @@ private:
     Exit exit_;
     StatusWindow statusWindow_;
     CompletionActions completionActions_;
+    Sounds sounds_;
     JobList jobList_;
+    AddGame addGame_;
+    QueueRunner queueRunner_;
     DeviceSelection deviceSelection_;
     InstallSource installSource_;
     InstallNow installNow_;

@@ -2,6 +2,7 @@
 
 #include "app/shared.h"
 #include "interpreter/text_primitives.h"
+#include "queue/job_result.h"
 
 namespace tarnwell {
 
@@ -21,7 +22,7 @@ struct Failure {
     const char* result;
 };
 constexpr Failure kFailures[] = {
-    {"Interrupted.", "Aborted"},
+    {"Interrupted.", kAborted},
     {"Input or output is unsupported.", "Error (Input or output is unsupported)"},
     {": The file exists.", "Error (File already exists)"},
     {"not enough free space.", "Error (Insufficient disk space)"},

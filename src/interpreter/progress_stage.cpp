@@ -4,6 +4,7 @@
 #include "app/shared.h"
 #include "interpreter/failure_stage.h"
 #include "interpreter/text_primitives.h"
+#include "queue/job_result.h"
 #include "queue/percent_bar.h"
 #include "services/mod_tray_icon.h"
 
@@ -70,7 +71,7 @@ QString windowCaption(Shared& shared, const QString& percent, ProgressOf mode, i
 }
 
 void completeJob(Shared& shared) {
-    WriteJobResult(shared, "Complete");
+    WriteJobResult(shared, kComplete);
     shared.blnJobDone = true;
     shared.blnQueueRunning = false;
     shared.blnInstallRunning = false;

@@ -25,6 +25,7 @@ struct DesktopPorts {
     QtSystemFolders folders;
     QtWindowManager windows;
     std::unique_ptr<Processes> processes;
+    std::unique_ptr<Sound> sound;
     std::unique_ptr<Power> power;
     std::unique_ptr<Ping> ping;
 };

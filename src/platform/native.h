@@ -22,6 +22,7 @@ void interruptProcess(qint64 processId);
 QString commandInterpreter();
 
 std::unique_ptr<Processes> makeProcesses();
+std::unique_ptr<Sound> makeSound();
 std::unique_ptr<Power> makePower();
 std::unique_ptr<Ping> makePing();
 

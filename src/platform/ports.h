@@ -134,6 +134,13 @@ public:
     std::function<void()> rightClicked;
 };
 
+class Sound {
+public:
+    virtual ~Sound() = default;
+    /// Starts a wave file in place of what still sounds, and returns at once. Silent if it cannot be played.
+    virtual void play(const QString& path) = 0;
+};
+
 class Power {
 public:
     virtual ~Power() = default;
@@ -183,6 +190,7 @@ struct Ports {
     Processes& processes;
     Dialogs& dialogs;
     Tray& tray;
+    Sound& sound;
     Power& power;
     Ping& ping;
     SystemFolders& folders;

@@ -23,17 +23,26 @@ void CompletionActions::offerChoices() {
 }
 
 void CompletionActions::afterInstall() {
-    turnConsoleOff();
+    if (consoleGoesOff()) {
+        // An install shows its last command even if the tool turns out to be busy.
+        shared_.frmMain.txtCommand.text = powerOff();
+        shared_.frmMain.txtOutput.text = QString();
+    }
+    afterQueue();
+}
+
+void CompletionActions::afterQueue() {
+    if (consoleGoesOff())
+        channel_.Tarn_Execute(powerOff());
     turnPcOff();
 }
 
-void CompletionActions::turnConsoleOff() {
-    if (!shared_.frmMain.optLAN.value || shared_.frmStatus->chkShutdownPS2.value != 1)
-        return;
-    const QString command = PowerOffCommand(shared_.frmMain.txtIP.text);
-    shared_.frmMain.txtCommand.text = command;
-    shared_.frmMain.txtOutput.text = QString();
-    channel_.Tarn_Execute(command);
+bool CompletionActions::consoleGoesOff() {
+    return shared_.frmMain.optLAN.value && shared_.frmStatus->chkShutdownPS2.value == 1;
+}
+
+QString CompletionActions::powerOff() const {
+    return PowerOffCommand(shared_.frmMain.txtIP.text);
 }
 
 void CompletionActions::turnPcOff() {

@@ -14,11 +14,13 @@ public:
     /// console can be turned off.
     void offerChoices();
 
-    /// After an install that was not cancelled; whether it worked is not asked.
+    /// After an install or a queue that was not cancelled; whether it worked is not asked.
     void afterInstall();
+    void afterQueue();
 
 private:
-    void turnConsoleOff();
+    bool consoleGoesOff();
+    QString powerOff() const;
     void turnPcOff();
 
     Shared& shared_;

@@ -1,6 +1,7 @@
 #include "queue/job_list.h"
 
 #include "interpreter/text_primitives.h"
+#include "queue/job_result.h"
 
 namespace tarnwell {
 
@@ -31,7 +32,7 @@ void JobList::queueJob(const Job& job, const QString& command, const QString& ba
 
 void JobList::AddJob(const Job& job) {
     shared_.frmMain.lstJob.append(
-        {.text = "Pending",
+        {.text = kPending,
          .subItems = {job.task, job.source, job.destination, job.name, job.startup, job.type, job.flags}});
 }
 
@@ -66,7 +67,7 @@ void JobList::pressMouse(int button) {
 void JobList::editCommand(int row) {
     ui::ListView& lstJob = shared_.frmMain.lstJob;
     const QString& result = lstJob.row(row).text;
-    if (result == QLatin1String("Active") || result == QLatin1String("Complete")) {
+    if (result == kActive || result == kComplete) {
         shared_.message("You cannot edit the command-line for jobs that are completed or currently active.");
         return;
     }

@@ -10,6 +10,9 @@ struct Job {
     QString task{}, source{}, destination{}, name{}, startup{}, type{}, flags{};
 };
 
+/// The balloon of a workflow that has queued its job.
+inline constexpr char kJobAdded[] = "Job added to job queue";
+
 /// The jobs that wait, run and have run. They are the rows of lstJob and nothing else: the state in the first
 /// column, what the job is about in the others, and the command, the only part that is ever executed, in the
 /// row's hidden tag. Outside a run the buttons that work on jobs are usable exactly when there are jobs.

@@ -37,4 +37,16 @@ void StatusWindow::refuseToCloseDuringWork(bool& cancel) {
     shared_.frmStatus.untouched().windowState = ui::WindowState::Minimised;
 }
 
+void CentreStatusWindow(Shared& shared) {
+    const ui::FrmMain& frmMain = shared.frmMain;
+    auto& frmStatus = shared.frmStatus;
+    frmStatus->left = frmMain.left + frmMain.width / 2 - frmStatus->width / 2;
+    frmStatus->top = frmMain.top + frmMain.height / 2 - frmStatus->height / 2;
+}
+
+void CloseStatusWindowIfWanted(Shared& shared) {
+    if (shared.config.number("CloseStatus") == 1)
+        shared.frmStatus->hide();
+}
+
 } // namespace tarnwell

@@ -17,4 +17,10 @@ private:
     cStdIO& StdIO_;
 };
 
+/// Puts the status window in the middle of the main window.
+void CentreStatusWindow(Shared& shared);
+
+/// At the end of work: hides the status window if the user wants that. Its texts stay for the next run.
+void CloseStatusWindowIfWanted(Shared& shared);
+
 } // namespace tarnwell

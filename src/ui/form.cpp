@@ -5,7 +5,7 @@ namespace tarnwell::ui {
 Form::Form(const QString& formName, const Declared& declared)
     : name(formName), caption(*this, declared.caption), left(*this, declared.left), top(*this, declared.top),
       width(*this, declared.width), height(*this, declared.height), windowState(*this), mousePointer(*this),
-      visible(*this), backColor(*this) {}
+      topmost(*this), visible(*this), backColor(*this) {}
 
 void Form::load() {
     if (loaded_)

@@ -22,6 +22,7 @@ public:
     Property<int> left, top, width, height; ///< twips; left and top are of the screen
     Property<WindowState> windowState;
     Property<MousePointer> mousePointer;
+    Property<bool> topmost; ///< stays before the windows of other programs
     Property<bool> visible; ///< follows show and hide
     Property<std::optional<std::int32_t>> backColor;
 

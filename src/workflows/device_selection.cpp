@@ -188,4 +188,10 @@ bool ConsoleAnswers(Shared& shared, const QString& address) {
     return false;
 }
 
+void RefreshAfterWork(Shared& shared) {
+    const ui::FrmMain& frmMain = shared.frmMain;
+    if (!frmMain.optLAN.value || PingConsole(frmMain.txtIP.text, shared.ports.ping) != kNoAnswer)
+        frmMain.cmdAttach.Click();
+}
+
 } // namespace tarnwell

@@ -38,4 +38,7 @@ private:
 /// Whether a console answers at the address; tells the user if none does.
 bool ConsoleAnswers(Shared& shared, const QString& address);
 
+/// At the end of work: reads the list of games again, unless the console no longer answers.
+void RefreshAfterWork(Shared& shared);
+
 } // namespace tarnwell

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/enable_gui.h"
+#include "interpreter/tool_commands.h"
 #include "queue/completion_actions.h"
 #include "tool/tool_channel.h"
 
@@ -13,17 +14,10 @@ public:
                CompletionActions& completionActions);
 
 private:
-    struct Game {
-        QString name, device, command;
-    };
-
     void install();
-    bool sourceChosen();
     void openStatus(const QString& name);
-    Game readPage() const;
-    void run(const Game& game);
-    void finish(const Game& game);
-    void refreshGameList();
+    void run(const Installation& game);
+    void finish(const Installation& game);
 
     Shared& shared_;
     ToolChannel& channel_;

@@ -132,6 +132,29 @@ void InstallSource::pressKeyInName(int& key) {
     shared_.frmMain.cmdAddGame.Click();
 }
 
+bool SourceChosen(Shared& shared) {
+    const ui::FrmMain& frmMain = shared.frmMain;
+    if (frmMain.optISO.value && frmMain.txtISO.text.get().isEmpty()) {
+        shared.message("Please select an ISO to install.");
+        return false;
+    }
+    if (frmMain.optOptical.value && frmMain.cmbOptical.text().isEmpty()) {
+        shared.message("Please select an optical drive with a PS2 game disc in it.");
+        return false;
+    }
+    return true;
+}
+
+Installation ReadInstallPage(const ui::FrmMain& frmMain) {
+    return {.type = frmMain.cmbType.text(),
+            .device = ActiveDeviceShort(frmMain),
+            .name = frmMain.txtGameName.text,
+            .source = frmMain.optISO.value ? frmMain.txtISO.text.get()
+                                           : ResolveOpticalDrive(frmMain, frmMain.cmbOptical.text()),
+            .startup = frmMain.txtGameStartup.text,
+            .flags = FlagsWord(frmMain)};
+}
+
 void clearCompatibilityFlags(ui::FrmMain& frmMain) {
     for (std::size_t i = 0; i < kClearedFlags; ++i)
         frmMain.mnuFlags[i].checked = false;

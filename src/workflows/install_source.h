@@ -1,6 +1,7 @@
 #pragma once
 
 #include "interpreter/output_interpreter.h"
+#include "interpreter/tool_commands.h"
 #include "tool/tool_channel.h"
 
 namespace tarnwell {
@@ -26,6 +27,13 @@ private:
     ToolChannel& channel_;
     OutputInterpreter& interpreter_;
 };
+
+/// Whether an image or a drive is chosen; asks the user for it if not.
+bool SourceChosen(Shared& shared);
+
+/// The game that the page describes, for the selected device. A drive that the last query does not know is a
+/// Fault.
+Installation ReadInstallPage(const ui::FrmMain& frmMain);
 
 /// Unticks flags 1 to 7. Flag 8 stays as it is: it survives into the next game.
 void clearCompatibilityFlags(ui::FrmMain& frmMain);

@@ -175,6 +175,13 @@ public:
     void remove() override { shown = false; }
 };
 
+class FakeSound : public Sound {
+public:
+    QStringList played;
+
+    void play(const QString& path) override { played += path; }
+};
+
 class FakePower : public Power {
 public:
     int shutDowns = 0;
@@ -225,12 +232,15 @@ struct FakePorts {
     FakeProcesses processes{launcher, clock};
     FakeDialogs dialogs{pump};
     FakeTray tray;
+    FakeSound sound;
     FakePower power;
     FakePing ping;
     FakeSystemFolders folders;
     FakeWindowManager windows;
 
-    Ports ports() { return {pump, clock, launcher, processes, dialogs, tray, power, ping, folders, windows}; }
+    Ports ports() {
+        return {pump, clock, launcher, processes, dialogs, tray, sound, power, ping, folders, windows};
+    }
 };
 
 } // namespace tarnwell::test

@@ -6,10 +6,10 @@ namespace tarnwell {
 
 DesktopPorts::DesktopPorts(const QIcon& icon, std::function<double()> pixelsPerTwip)
     : dialogs(pump), tray(icon), windows(std::move(pixelsPerTwip)), processes(native::makeProcesses()),
-      power(native::makePower()), ping(native::makePing()) {}
+      sound(native::makeSound()), power(native::makePower()), ping(native::makePing()) {}
 
 Ports DesktopPorts::ports() {
-    return {pump, clock, launcher, *processes, dialogs, tray, *power, *ping, folders, windows};
+    return {pump, clock, launcher, *processes, dialogs, tray, *sound, *power, *ping, folders, windows};
 }
 
 } // namespace tarnwell

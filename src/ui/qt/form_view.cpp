@@ -5,6 +5,7 @@
 
 #include <QCloseEvent>
 #include <QLayout>
+#include <QWindow>
 
 #include <cmath>
 
@@ -47,6 +48,7 @@ void FormView::followForm() {
     if (form_.left || form_.top)
         showPlace();
     binding().listen(form_.windowState.changed, *this, [this] { showState(); });
+    binding().follow(form_.topmost.changed, *this, [this] { showTopmost(); });
     binding().follow(form_.visible.changed, *this, [this] { showVisibility(); });
     // Showing a window that is up already brings it before the others.
     form_.visible.assigned = [alive = QPointer(this)](bool changes) {
@@ -102,6 +104,13 @@ void FormView::showState() {
     show();
     raise();
     activateWindow();
+}
+
+void FormView::showTopmost() {
+    // setWindowFlag would hide and remake the window before the user's eyes.
+    overrideWindowFlags(windowFlags().setFlag(Qt::WindowStaysOnTopHint, form_.topmost));
+    if (QWindow* const window = windowHandle())
+        window->setFlag(Qt::WindowStaysOnTopHint, form_.topmost);
 }
 
 void FormView::showColor() {

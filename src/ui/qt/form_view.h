@@ -40,6 +40,7 @@ private:
     void showPlace();
     void showVisibility();
     void showState();
+    void showTopmost();
     void showColor();
     void showPointer();
     void reportState();
