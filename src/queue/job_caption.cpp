@@ -7,8 +7,8 @@ namespace tarnwell {
 
 namespace {
 
-/// The words of a command, always at least one. Nothing but the first word can be lost to blanks: two blanks
-/// in the middle make an empty word, and a blank at the very end belongs to the last.
+/// The words of a command, always at least one. Blanks in front are skipped, two in the middle have an empty
+/// word between them, and one at the very end belongs to the last word.
 class Words {
 public:
     explicit Words(const QString& command) {

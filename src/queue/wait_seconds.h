@@ -4,8 +4,8 @@ namespace tarnwell {
 
 struct Ports;
 
-/// Lets events in until the time of day has moved on by `delay` seconds. A wait across midnight starts from
-/// a time of day that comes again only the next day.
+/// Lets events in until the time of day is `delay` seconds later than it was. Nothing guards against
+/// midnight: a wait across it does not end by itself.
 void WaitSeconds(double delay, const Ports& ports);
 
 } // namespace tarnwell

@@ -112,6 +112,10 @@ void DeviceSelection::refresh() {
 
 void DeviceSelection::readGameList() {
     interpreter_.ParseToolOutput(channel_.Tarn_Command(GameListCommand(ActiveDeviceLong(shared_.frmMain))));
+    // After a failed job the answer was taken for that job's. The question must not stay open: the progress
+    // of the next job would be withheld as part of the answer.
+    if (shared_.jobRunning())
+        shared_.blnReadTOC = false;
 }
 
 void DeviceSelection::shutDownConsole() {

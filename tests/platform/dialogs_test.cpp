@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QInputDialog>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -201,11 +202,32 @@ TEST_F(DialogsTest, AMessageMayComeUpOverAnother) {
     EXPECT_EQ(closed, QStringList({"second", "first"}));
 }
 
+TEST_F(DialogsTest, AnInputIsFilledAndGivesWhatTheUserHasWritten) {
+    const QString command = "delete hdd1: \"<b>Ratchet & Clank</b>\"";
+    whenOpen<QInputDialog>([&](QInputDialog& box) {
+        EXPECT_EQ(box.windowTitle(), "Edit command");
+        EXPECT_EQ(box.labelText(), "Make changes and click OK to save.");
+        auto* const line = box.findChild<QLineEdit*>();
+        ASSERT_NE(line, nullptr);
+        EXPECT_EQ(line->text(), command);
+        EXPECT_GT(line->width(), line->fontMetrics().horizontalAdvance(command));
+        line->setText("  x  ");
+        box.accept();
+    });
+    EXPECT_EQ(dialogs_.input("Make changes and click OK to save.", "Edit command", command), "  x  ");
+}
+
+TEST_F(DialogsTest, ACancelledInputGivesNothing) {
+    whenOpen<QInputDialog>([](QInputDialog& box) { box.reject(); });
+    EXPECT_EQ(dialogs_.input("prompt", "title", "text"), std::nullopt);
+}
+
 TEST_F(DialogsTest, TheEndOfTheProgramClosesAnOpenDialogAndItsHandlerGoesNoFurther) {
     using Open = std::function<void(QtDialogs&)>;
     for (const Open& open :
          {Open([](QtDialogs& dialogs) { dialogs.message("text", MessageIcon::Exclamation, "title"); }),
           Open([](QtDialogs& dialogs) { dialogs.question("text", "title"); }),
+          Open([](QtDialogs& dialogs) { dialogs.input("prompt", "title", "text"); }),
           Open([](QtDialogs& dialogs) { dialogs.openFile({}); }),
           Open([](QtDialogs& dialogs) { dialogs.saveFile({}); })}) {
         QtEventPump pump;

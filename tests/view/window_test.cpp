@@ -2,6 +2,7 @@
 #include "view/view_fixture.h"
 
 #include <QGroupBox>
+#include <QWindow>
 
 namespace tarnwell::view {
 
@@ -161,6 +162,42 @@ TEST(StatusWindow, RefusedCloseMinimisesIt) {
     };
     view.window()->close();
     EXPECT_TRUE(view.window()->isMinimized());
+}
+
+/// Counts how often a window is taken from the screen.
+class HideCounter : public QObject {
+public:
+    explicit HideCounter(QWidget& window) { window.installEventFilter(this); }
+    int hides = 0;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        hides += event->type() == QEvent::Hide ? 1 : 0;
+        return false;
+    }
+};
+
+TEST(StatusWindow, ComesOnTopWithoutFlicker) {
+    ui::FrmStatus form;
+    const StatusWindowView view(form);
+    form.show();
+    HideCounter counter(*view.window());
+    const QWindow* const window = view.window()->windowHandle();
+    for (const bool topmost : {true, false}) {
+        form.topmost = topmost;
+        EXPECT_EQ(window->flags().testFlag(Qt::WindowStaysOnTopHint), topmost);
+        EXPECT_EQ(view.window()->windowFlags().testFlag(Qt::WindowStaysOnTopHint), topmost);
+    }
+    EXPECT_EQ(counter.hides, 0);
+    EXPECT_EQ(view.window()->windowHandle(), window);
+}
+
+TEST(StatusWindow, MayBeOnTopFromItsFirstMoment) {
+    ui::FrmStatus form;
+    form.topmost = true;
+    const StatusWindowView view(form);
+    form.show();
+    EXPECT_TRUE(view.window()->windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint));
 }
 
 TEST(ApplicationIcon, HasAllSizesFromTrayToDesktop) {
