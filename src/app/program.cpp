@@ -25,7 +25,9 @@ Program::Program(const Ports& ports)
       completionActions_(shared_, channel_), sounds_(shared_), jobList_(shared_), addGame_(shared_, jobList_),
       queueRunner_(shared_, channel_, StdIO_, guiSwitch_, completionActions_, sounds_),
       deviceSelection_(shared_, channel_, interpreter_), installSource_(shared_, channel_, interpreter_),
-      installNow_(shared_, channel_, StdIO_, guiSwitch_, completionActions_) {
+      installNow_(shared_, channel_, StdIO_, guiSwitch_, completionActions_), makeIso_(shared_, jobList_),
+      copyGames_(shared_, jobList_), deleteGames_(shared_, channel_, jobList_),
+      renameGame_(shared_, channel_), exportGameList_(shared_) {
     const auto dispatch = [this](const std::function<void()>& handler) { dispatcher_.dispatch(handler); };
     shared_.frmMain.dispatcher = dispatch;
     shared_.frmStatus.untouched().dispatcher = dispatch;

@@ -15,9 +15,14 @@
 #include "queue/status_window.h"
 #include "tool/std_io.h"
 #include "tool/tool_channel.h"
+#include "workflows/copy_games.h"
+#include "workflows/delete_games.h"
 #include "workflows/device_selection.h"
+#include "workflows/export_game_list.h"
 #include "workflows/install_now.h"
 #include "workflows/install_source.h"
+#include "workflows/make_iso.h"
+#include "workflows/rename_game.h"
 
 namespace tarnwell {
 
@@ -55,6 +60,11 @@ private:
     DeviceSelection deviceSelection_;
     InstallSource installSource_;
     InstallNow installNow_;
+    MakeIso makeIso_;
+    CopyGames copyGames_;
+    DeleteGames deleteGames_;
+    RenameGame renameGame_;
+    ExportGameList exportGameList_;
 };
 
 } // namespace tarnwell

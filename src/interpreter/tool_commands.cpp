@@ -9,6 +9,10 @@ namespace {
 constexpr qsizetype kShortDeviceLength = 5;
 constexpr qsizetype kDriveNameLength = 4; ///< cd0:
 
+QString installWord(bool isDvd) {
+    return isDvd ? QStringLiteral("inject_dvd") : QStringLiteral("inject_cd");
+}
+
 } // namespace
 
 QString QuoteArg(const QString& value) {
@@ -64,7 +68,7 @@ QString ImageInfoCommand(const QString& path) {
 }
 
 QString InstallCommand(const Installation& game) {
-    const QString command = game.type == QLatin1String("DVD-ROM") ? "inject_dvd" : "inject_cd";
+    const QString command = installWord(game.type == QLatin1String("DVD-ROM"));
     // Two quotes hold the place of a missing startup file, so that the flags stay in theirs.
     const bool placeholder = game.startup.isEmpty() && !game.flags.isEmpty();
     const QStringList words{command,
@@ -74,6 +78,28 @@ QString InstallCommand(const Installation& game) {
                             placeholder ? QStringLiteral("\"\"") : game.startup,
                             game.flags};
     return RTrim(words.join(' '));
+}
+
+QString MakeImageCommand(const QString& drive, const QString& path) {
+    return "dump " + drive + ' ' + QuoteArg(path);
+}
+
+QString CopyToFileCommand(const QString& device, const QString& name, const QString& path) {
+    return "extract " + QuoteArg(device) + ' ' + QuoteArg(name) + ' ' + QuoteArg(path);
+}
+
+QString CopyToDeviceCommand(const QString& type, const QString& target, const QString& name,
+                            const QString& device) {
+    return installWord(type == QLatin1String("DVD")) + ' ' + QuoteArg(target) + ' ' + QuoteArg(name) + ' ' +
+           QuoteArg(name + '@' + device);
+}
+
+QString DeleteCommand(const QString& device, const QString& name) {
+    return "delete " + device + ' ' + QuoteArg(name);
+}
+
+QString RenameCommand(const QString& device, const QString& oldName, const QString& newName) {
+    return "modify " + device + ' ' + QuoteArg(oldName) + ' ' + QuoteArg(newName);
 }
 
 QString PowerOffCommand(const QString& address) {

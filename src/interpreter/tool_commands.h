@@ -36,6 +36,14 @@ QString GameListCommand(const QString& device);
 QString DriveInfoCommand(const QString& drive);
 QString ImageInfoCommand(const QString& path);
 QString InstallCommand(const Installation& game);
+/// `drive` as ResolveOpticalDrive gives it.
+QString MakeImageCommand(const QString& drive, const QString& path);
+QString CopyToFileCommand(const QString& device, const QString& name, const QString& path);
+/// Installs a game of `device` onto `target`; `type` is the word that the list of games shows.
+QString CopyToDeviceCommand(const QString& type, const QString& target, const QString& name,
+                            const QString& device);
+QString DeleteCommand(const QString& device, const QString& name);
+QString RenameCommand(const QString& device, const QString& oldName, const QString& newName);
 QString PowerOffCommand(const QString& address);
 
 } // namespace tarnwell

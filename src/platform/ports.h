@@ -93,17 +93,31 @@ struct OpenFileRequest {
     bool mustExist = false;
 };
 
+/// What the save dialog offers.
+struct SaveFileRequest {
+    QString title{}; ///< empty: the platform's own
+    QString filter{};
+    QString folder{};    ///< empty: the dialog's own start folder
+    QString fileName{};  ///< what stands in the dialog at first
+    QString extension{}; ///< goes behind a name that is typed without one; "iso" and "*.iso" are the same
+    bool askBeforeOverwriting = false;
+};
+
 /// Boxes that wait for the user, with the program's title. All of them pump events while they are open.
 class Dialogs {
 public:
     virtual ~Dialogs() = default;
     /// A plain text with one OK button.
     virtual void message(const QString& text, MessageIcon icon, const QString& title) = 0;
+    /// A plain text with the buttons Yes and No. Whether the answer was Yes; closing the box is a No.
+    virtual bool question(const QString& text, const QString& title) = 0;
     /// A line for the user to write, filled with `text`. What stands in it on OK; nothing on Cancel.
     virtual std::optional<QString> input(const QString& prompt, const QString& title,
                                          const QString& text) = 0;
     /// The chosen path in the platform's own form; nothing if the user cancelled.
     virtual std::optional<QString> openFile(const OpenFileRequest& request) = 0;
+    /// The same; nothing is written.
+    virtual std::optional<QString> saveFile(const SaveFileRequest& request) = 0;
 };
 
 /// The program's one icon in the system tray. On a desktop without a tray every call does nothing.

@@ -104,7 +104,7 @@ void DeviceSelection::refresh() {
         chooseDiskAgain(chosen);
     }
     const AwaitedAnswer gameList(shared_.blnReadTOC);
-    if (frmMain.optLocal.value || consoleAnswers())
+    if (frmMain.optLocal.value || ConsoleAnswers(shared_, frmMain.txtIP.text))
         readGameList();
     else
         shared_.blnReadTOC = false;
@@ -124,7 +124,7 @@ void DeviceSelection::shutDownConsole() {
         return;
     if (frmMain.optLAN.value && !addressEntered())
         return;
-    if (!consoleAnswers())
+    if (!ConsoleAnswers(shared_, frmMain.txtIP.text))
         return;
     const QString command = PowerOffCommand(frmMain.txtIP.text);
     frmMain.txtCommand.text = command;
@@ -166,14 +166,6 @@ bool DeviceSelection::addressEntered() {
     return false;
 }
 
-bool DeviceSelection::consoleAnswers() {
-    const QString address = shared_.frmMain.txtIP.text;
-    if (PingConsole(address, shared_.ports.ping) != kNoAnswer)
-        return true;
-    shared_.message(consoleNotFound(address));
-    return false;
-}
-
 void DeviceSelection::resetDevice() {
     disableDeviceGroup();
     shared_.frmMain.lstHD.clear();
@@ -191,6 +183,13 @@ void DeviceSelection::disableDeviceGroup() {
 void DeviceSelection::resetSpace() {
     PercentBar(shared_.frmMain.picDiskSpace, 100, 0, shared_.ports.pump);
     shared_.frmMain.lblDiskSpace.caption = kNoDevice;
+}
+
+bool ConsoleAnswers(Shared& shared, const QString& address) {
+    if (PingConsole(address, shared.ports.ping) != kNoAnswer)
+        return true;
+    shared.message(consoleNotFound(address));
+    return false;
 }
 
 void RefreshAfterWork(Shared& shared) {

@@ -25,7 +25,6 @@ private:
     void chooseDiskAgain(int index);
     void readGameList();
     bool addressEntered();
-    bool consoleAnswers();
 
     void resetDevice();
     void disableDeviceGroup();
@@ -35,6 +34,9 @@ private:
     ToolChannel& channel_;
     OutputInterpreter& interpreter_;
 };
+
+/// Whether a console answers at the address; tells the user if none does.
+bool ConsoleAnswers(Shared& shared, const QString& address);
 
 /// At the end of work: reads the list of games again, unless the console no longer answers.
 void RefreshAfterWork(Shared& shared);

@@ -29,12 +29,6 @@ struct InstallNow : ProgramTest {
         }
         return {};
     }
-    QStringList balloons() const {
-        QStringList texts;
-        for (const auto& balloon : ports.tray.balloons)
-            texts += balloon.text;
-        return texts;
-    }
     void setSpace(const QString& freeMegabytes, const QString& gameMegabytes) {
         frmMain.picDiskSpace.tag = freeMegabytes;
         frmMain.txtGameSize.tag = gameMegabytes;

@@ -9,6 +9,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -103,6 +104,49 @@ TEST_F(DialogsTest, AStopMessageHasTheStopIcon) {
     dialogs_.message("Unexpected error.", MessageIcon::Stop, "Tarnwell GUI");
 }
 
+TEST_F(DialogsTest, AQuestionIsAnsweredByYesOnly) {
+    const auto answerBy = [this](const std::function<void(QMessageBox&)>& act) {
+        whenOpen<QMessageBox>(act);
+        return dialogs_.question("Delete <b>all</b>?", "Tarnwell GUI");
+    };
+    EXPECT_TRUE(answerBy([](QMessageBox& box) {
+        EXPECT_EQ(box.text(), "Delete <b>all</b>?");
+        EXPECT_EQ(box.textFormat(), Qt::PlainText);
+        EXPECT_EQ(box.windowTitle(), "Tarnwell GUI");
+        EXPECT_EQ(box.icon(), QMessageBox::Warning);
+        EXPECT_EQ(box.standardButtons(), QMessageBox::Yes | QMessageBox::No);
+        EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::No));
+        box.button(QMessageBox::Yes)->click();
+    }));
+    EXPECT_FALSE(answerBy([](QMessageBox& box) { box.button(QMessageBox::No)->click(); }));
+    EXPECT_FALSE(answerBy([](QMessageBox& box) { box.close(); }));
+    EXPECT_FALSE(answerBy([](QMessageBox& box) {
+        QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        QCoreApplication::sendEvent(&box, &escape);
+    }));
+}
+
+TEST_F(DialogsTest, TheButtonsOfALongQuestionAreOnTheScreen) {
+    const QString text = "Delete these?\r\n\r\n" + (QString(300, u'x') + "\r\n").repeated(500);
+    whenOpen<QMessageBox>([&](QMessageBox& box) {
+        const auto expectInSight = [&box] {
+            const QPushButton* yes = qobject_cast<QPushButton*>(box.button(QMessageBox::Yes));
+            EXPECT_TRUE(
+                box.screen()->availableGeometry().contains(QRect(yes->mapToGlobal(QPoint()), yes->size())));
+        };
+        expectInSight();
+        EXPECT_EQ(box.detailedText(), QString(text).remove(u'\r')) << "all of it can be unfolded";
+        for (QAbstractButton* button : box.buttons()) {
+            if (box.buttonRole(button) == QMessageBox::ActionRole)
+                button->click();
+        }
+        QCoreApplication::processEvents();
+        expectInSight();
+        box.reject();
+    });
+    EXPECT_FALSE(dialogs_.question(text, "title"));
+}
+
 TEST_F(DialogsTest, AMessageBelongsToTheWindowThatTheUserIsAt) {
     QWidget window;
     window.show();
@@ -182,8 +226,10 @@ TEST_F(DialogsTest, TheEndOfTheProgramClosesAnOpenDialogAndItsHandlerGoesNoFurth
     using Open = std::function<void(QtDialogs&)>;
     for (const Open& open :
          {Open([](QtDialogs& dialogs) { dialogs.message("text", MessageIcon::Exclamation, "title"); }),
+          Open([](QtDialogs& dialogs) { dialogs.question("text", "title"); }),
           Open([](QtDialogs& dialogs) { dialogs.input("prompt", "title", "text"); }),
-          Open([](QtDialogs& dialogs) { dialogs.openFile({}); })}) {
+          Open([](QtDialogs& dialogs) { dialogs.openFile({}); }),
+          Open([](QtDialogs& dialogs) { dialogs.saveFile({}); })}) {
         QtEventPump pump;
         QtDialogs dialogs(pump);
         bool thrown = false;
@@ -265,6 +311,104 @@ TEST_F(OpenFileTest, AskingForNothingInParticularOpensThePlatformsOwnDialog) {
         dialog.reject();
     });
     EXPECT_EQ(dialogs_.openFile({}), std::nullopt);
+}
+
+class SaveFileTest : public OpenFileTest {
+protected:
+    SaveFileRequest request() const {
+        return {.title = "Save Image",
+                .filter = "Images|*.iso|All Files (*.*)|*.*|",
+                .folder = folder_.path(),
+                .fileName = "new game.iso",
+                .extension = "*.iso",
+                .askBeforeOverwriting = true};
+    }
+    QString whole(const QString& name) const { return QDir::toNativeSeparators(folder_.filePath(name)); }
+
+    /// Takes what the dialog proposes; answers its question, if there is one.
+    void accept(QMessageBox::StandardButton answer) {
+        whenOpen<QFileDialog>([answer](QFileDialog& dialog) {
+            const auto reply = [&dialog, answer](QMessageBox& question) {
+                question.button(answer)->click();
+                if (answer == QMessageBox::No)
+                    QTimer::singleShot(0, &dialog, &QDialog::reject);
+            };
+            whenOpen<QMessageBox>(reply, &dialog);
+            QMetaObject::invokeMethod(&dialog, "accept");
+        });
+    }
+};
+
+TEST_F(SaveFileTest, ProposesWhatWasAskedFor) {
+    whenOpen<QFileDialog>([&](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), "Save Image");
+        EXPECT_EQ(dialog.nameFilters(), QStringList({"Images (*.iso)", "All Files (*)"}));
+        EXPECT_EQ(dialog.directory().canonicalPath(), QFileInfo(folder_.path()).canonicalFilePath());
+        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
+        EXPECT_EQ(dialog.findChild<QLineEdit*>("fileNameEdit")->text(), "new game.iso");
+        QMetaObject::invokeMethod(&dialog, "accept");
+    });
+    EXPECT_EQ(dialogs_.saveFile(request()), whole("new game.iso"));
+    EXPECT_FALSE(QFile::exists(folder_.filePath("new game.iso")));
+}
+
+TEST_F(SaveFileTest, ANameWithoutAnExtensionGetsOne) {
+    type("typed");
+    EXPECT_EQ(dialogs_.saveFile(request()), whole("typed.iso"));
+    type("typed.cue");
+    EXPECT_EQ(dialogs_.saveFile(request()), whole("typed.cue"));
+    SaveFileRequest plain = request();
+    plain.extension = "txt";
+    type("typed");
+    EXPECT_EQ(dialogs_.saveFile(plain), whole("typed.txt"));
+}
+
+TEST_F(SaveFileTest, AFileThatExistsIsAskedAboutFirst) {
+    SaveFileRequest existing = request();
+    existing.fileName = "game.iso";
+    accept(QMessageBox::No);
+    EXPECT_EQ(dialogs_.saveFile(existing), std::nullopt);
+    accept(QMessageBox::Yes);
+    EXPECT_EQ(dialogs_.saveFile(existing), whole("game.iso"));
+    EXPECT_TRUE(QFile::exists(folder_.filePath("game.iso")));
+}
+
+TEST_F(SaveFileTest, UnlessNobodyWantsToAsk) {
+    SaveFileRequest existing = request();
+    existing.fileName = "game.iso";
+    existing.askBeforeOverwriting = false;
+    accept(QMessageBox::No);
+    EXPECT_EQ(dialogs_.saveFile(existing), whole("game.iso"));
+}
+
+TEST_F(SaveFileTest, ACancelledDialogGivesNothing) {
+    whenOpen<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
+    EXPECT_EQ(dialogs_.saveFile(request()), std::nullopt);
+}
+
+TEST_F(SaveFileTest, ANameThatIsNoFileNameIsProposedAsItIs) {
+    for (const QString& name : {QStringLiteral("AC/DC.iso"), QString(300, u'x')}) {
+        SaveFileRequest odd = request();
+        odd.fileName = name;
+        whenOpen<QFileDialog>([&](QFileDialog& dialog) {
+            EXPECT_EQ(dialog.findChild<QLineEdit*>("fileNameEdit")->text(), name);
+            EXPECT_EQ(dialog.directory().canonicalPath(), QFileInfo(folder_.path()).canonicalFilePath());
+            dialog.reject();
+        });
+        EXPECT_EQ(dialogs_.saveFile(odd), std::nullopt);
+    }
+}
+
+TEST_F(SaveFileTest, WithoutAFolderTheDialogStartsWhereItLastWas) {
+    type("typed");
+    dialogs_.saveFile(request());
+    SaveFileRequest nowhere = request();
+    nowhere.folder.clear();
+    whenOpen<QFileDialog>([&](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.directory().canonicalPath(), QFileInfo(folder_.path()).canonicalFilePath());
+        dialog.reject();
+    });
+    dialogs_.saveFile(nowhere);
 }
 
 } // namespace

@@ -175,6 +175,12 @@ void FakeDialogs::message(const QString& text, MessageIcon icon, const QString& 
     waitForUser();
 }
 
+bool FakeDialogs::question(const QString& text, const QString&) {
+    questions.append(text);
+    waitForUser();
+    return questionAnswer;
+}
+
 std::optional<QString> FakeDialogs::input(const QString& prompt, const QString& title, const QString& text) {
     inputs.push_back({prompt, title, text});
     waitForUser();
@@ -185,6 +191,12 @@ std::optional<QString> FakeDialogs::openFile(const OpenFileRequest& request) {
     openFileRequests.push_back(request);
     waitForUser();
     return take(openFileAnswers);
+}
+
+std::optional<QString> FakeDialogs::saveFile(const SaveFileRequest& request) {
+    saveFileRequests.push_back(request);
+    waitForUser();
+    return take(saveFileAnswers);
 }
 
 void FakeDialogs::waitForUser() const {

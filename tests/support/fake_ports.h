@@ -124,21 +124,27 @@ public:
 
     explicit FakeDialogs(const FakeEventPump& pump) : pump_(pump) {}
 
-    std::vector<Message> messages;
     struct Input {
         QString prompt, title, text;
     };
+    std::vector<Message> messages;
+    QStringList questions;
+    bool questionAnswer = true; ///< whether the user says Yes
     std::vector<Input> inputs;
     std::deque<std::optional<QString>> inputAnswers; ///< used up one by one; then the user cancels
     std::vector<OpenFileRequest> openFileRequests;
     std::deque<std::optional<QString>> openFileAnswers; ///< used up one by one; then the user cancels
+    std::vector<SaveFileRequest> saveFileRequests;
+    std::deque<std::optional<QString>> saveFileAnswers; ///< used up one by one; then the user cancels
     std::function<void()> whileOpen;                    ///< what happens while a box is open
 
     QStringList messageTexts() const;
 
     void message(const QString& text, MessageIcon icon, const QString& title) override;
+    bool question(const QString& text, const QString& title) override;
     std::optional<QString> input(const QString& prompt, const QString& title, const QString& text) override;
     std::optional<QString> openFile(const OpenFileRequest& request) override;
+    std::optional<QString> saveFile(const SaveFileRequest& request) override;
 
 private:
     void waitForUser() const;

@@ -39,6 +39,12 @@ protected:
     QString lastMessage() const {
         return ports.dialogs.messages.empty() ? QString() : ports.dialogs.messages.back().text;
     }
+    QStringList balloons() const {
+        QStringList texts;
+        for (const auto& balloon : ports.tray.balloons)
+            texts += balloon.text;
+        return texts;
+    }
     static ChildScript silent() { return {}; }
 
     /// What the tool says when nothing goes wrong.

@@ -133,14 +133,21 @@ TEST_F(GameList, RefusedLabelEditKeepsTheOldLabel) {
     EXPECT_EQ(shown(3, 0), "Paper Dragons");
 }
 
-TEST_F(GameList, UntouchedLabelIsNoEdit) {
+TEST_F(GameList, UntouchedLabelIsAnEditTooUnlessItIsLeftByEscape) {
     int asked = 0;
     form.lstHD.AfterLabelEdit = [&](bool&, int, const QString&) { ++asked; };
     QLineEdit* editor = editLabel(3, "Paper Dragons");
     ASSERT_TRUE(editor);
-    QTest::keyClick(editor, Qt::Key_Return);
+    QTest::keyClick(editor, Qt::Key_Escape);
     serveEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(asked, 0);
+    editor = editLabel(3, "Paper Dragons");
+    ASSERT_TRUE(editor);
+    QTest::keyClick(editor, Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return asked > 0; }));
+    serveEvents();
+    EXPECT_EQ(asked, 1);
 }
 
 TEST_F(GameList, RightPressSelectsTheRowAndIsTold) {

@@ -8,7 +8,6 @@
 #include <QFileDialog>
 #include <QFontMetrics>
 #include <QInputDialog>
-#include <QMessageBox>
 
 namespace tarnwell {
 
@@ -26,11 +25,21 @@ QMessageBox::Icon toolkitIcon(MessageIcon icon) {
 } // namespace
 
 void QtDialogs::message(const QString& text, MessageIcon icon, const QString& title) {
+    show(text, toolkitIcon(icon), title, QMessageBox::Ok);
+}
+
+bool QtDialogs::question(const QString& text, const QString& title) {
+    return show(text, QMessageBox::Warning, title, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+}
+
+QMessageBox::StandardButton QtDialogs::show(const QString& text, QMessageBox::Icon icon, const QString& title,
+                                            QMessageBox::StandardButtons buttons) const {
     const MessageText fitted = fitMessageText(text);
-    QMessageBox box(toolkitIcon(icon), title, fitted.shown, QMessageBox::Ok, windowOfTheUser());
+    QMessageBox box(icon, title, fitted.shown, buttons, windowOfTheUser());
     box.setTextFormat(Qt::PlainText);
     box.setDetailedText(fitted.whole);
-    waitFor(box);
+    box.setDefaultButton(QMessageBox::No); // where there is one: a stray Enter is no Yes
+    return static_cast<QMessageBox::StandardButton>(waitFor(box));
 }
 
 std::optional<QString> QtDialogs::input(const QString& prompt, const QString& title, const QString& text) {
@@ -50,7 +59,20 @@ std::optional<QString> QtDialogs::openFile(const OpenFileRequest& request) {
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(request.mustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite); // a file that exists is what an open dialog is for
-    if (const QStringList filters = toolkitFilters(request.filter); !filters.isEmpty()) {
+    return chooseFile(dialog, request.filter);
+}
+
+std::optional<QString> QtDialogs::saveFile(const SaveFileRequest& request) {
+    QFileDialog dialog(windowOfTheUser(), request.title, request.folder);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.askBeforeOverwriting);
+    dialog.setDefaultSuffix(request.extension.mid(request.extension.lastIndexOf(u'.') + 1));
+    dialog.selectFile(request.fileName);
+    return chooseFile(dialog, request.filter);
+}
+
+std::optional<QString> QtDialogs::chooseFile(QFileDialog& dialog, const QString& filter) const {
+    if (const QStringList filters = toolkitFilters(filter); !filters.isEmpty()) {
         dialog.setNameFilters(filters);
     }
     if (waitFor(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {

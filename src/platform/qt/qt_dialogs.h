@@ -2,7 +2,9 @@
 
 #include "platform/qt/qt_event_pump.h"
 
-class QDialog;
+#include <QMessageBox>
+
+class QFileDialog;
 
 namespace tarnwell {
 
@@ -12,11 +14,16 @@ public:
     explicit QtDialogs(const QtEventPump& pump) : pump_(pump) {}
 
     void message(const QString& text, MessageIcon icon, const QString& title) override;
+    bool question(const QString& text, const QString& title) override;
     std::optional<QString> input(const QString& prompt, const QString& title, const QString& text) override;
     std::optional<QString> openFile(const OpenFileRequest& request) override;
+    std::optional<QString> saveFile(const SaveFileRequest& request) override;
 
 private:
     int waitFor(QDialog& dialog) const;
+    QMessageBox::StandardButton show(const QString& text, QMessageBox::Icon icon, const QString& title,
+                                     QMessageBox::StandardButtons buttons) const;
+    std::optional<QString> chooseFile(QFileDialog& dialog, const QString& filter) const;
 
     const QtEventPump& pump_;
 };

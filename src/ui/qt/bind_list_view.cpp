@@ -48,7 +48,7 @@ public:
 
     void setModelData(QWidget* editor, QAbstractItemModel*, const QModelIndex& index) const override {
         const auto* edit = qobject_cast<QLineEdit*>(editor);
-        if (!edit || edit->text() == index.data().toString())
+        if (!edit)
             return;
         QMetaObject::invokeMethod(
             parent(),

@@ -1,0 +1,40 @@
+#include "workflows/rename_game.h"
+
+#include "interpreter/text_primitives.h"
+#include "interpreter/tool_commands.h"
+#include "workflows/query.h"
+
+namespace tarnwell {
+
+RenameGame::RenameGame(Shared& shared, ToolChannel& channel) : shared_(shared), channel_(channel) {
+    shared_.frmMain.lstHD.AfterLabelEdit = [this](bool& cancel, int row, const QString& newName) {
+        // Never taken over by the list itself: it is read anew before this ends, and then the row can be
+        // another game's.
+        cancel = true;
+        if (accepts(shared_.frmMain.lstHD.row(row).text, newName))
+            rename(row, newName);
+    };
+}
+
+bool RenameGame::accepts(const QString& oldName, const QString& newName) {
+    if (Trim(newName).isEmpty() || shared_.jobRunning())
+        return false;
+    if (newName.toLower() != oldName.toLower())
+        return true;
+    shared_.message(
+        "This command does not work for changing the case of character(s) in a game name. The name "
+        "must be *different* in some way for it to work.");
+    return false;
+}
+
+void RenameGame::rename(int row, const QString& newName) {
+    ui::FrmMain& frmMain = shared_.frmMain;
+    const Hourglass hourglass(frmMain);
+    const QString oldName = frmMain.lstHD.row(row).text;
+    frmMain.lstHD.setText(row, newName);
+    // The address stands in the device's place for a local disk too.
+    channel_.Tarn_Execute(RenameCommand(frmMain.txtIP.text, oldName, newName));
+    frmMain.cmdAttach.Click();
+}
+
+} // namespace tarnwell

@@ -1,0 +1,157 @@
+#include "logic/game_list_fixture.h"
+
+#include <QDir>
+
+namespace tarnwell::test {
+
+namespace {
+
+/// A disc has been read from the only drive.
+struct MakeIso : GameListTest {
+    MakeIso() {
+        answerQueryWith("\tcd0:  4482 MB\r\nvia SPTI:\r\n\tE: disc 4482 MB\r\n");
+        answerDiscInfoWith("DVD 4193280KB \"RATCHET\" \"SLUS_200.71\"\r\n");
+        ui::click(frmMain.optInstall);
+        ui::click(frmMain.optOptical);
+    }
+
+    void saveAs(const QString& file) {
+        ports.dialogs.saveFileAnswers.push_back(file);
+        ui::click(frmMain.cmdMakeISO);
+    }
+};
+
+} // namespace
+
+TEST_F(MakeIso, QueuesAJobAndStartsNothing) {
+    const qsizetype before = commands().size();
+    saveAs("/games/ratchet.iso");
+    expectQueued({"Make ISO", "E:", "/games/ratchet.iso", "RATCHET"}, "dump E: /games/ratchet.iso");
+    EXPECT_EQ(commands().size(), before);
+    EXPECT_FALSE(QFile::exists("/games/ratchet.iso"));
+}
+
+TEST_F(MakeIso, ThePageStaysForAnInstall) {
+    ui::click(frmMain.mnuFlags[1]);
+    saveAs("/games/ratchet.iso");
+    EXPECT_EQ(frmMain.txtGameName.text.get(), "RATCHET");
+    EXPECT_EQ(frmMain.cmbOptical.listIndex, 0);
+    EXPECT_TRUE(frmMain.mnuFlags[1].checked);
+    EXPECT_TRUE(frmMain.cmdMakeISO.enabled);
+}
+
+TEST_F(MakeIso, TheDialogProposesTheNameOfTheGame) {
+    store("DefaultISO", "/my images");
+    ui::type(frmMain.txtGameName, "Ratchet and Clank");
+    saveAs("/my images/Ratchet and Clank.iso");
+    const SaveFileRequest& request = ports.dialogs.saveFileRequests.at(0);
+    EXPECT_EQ(request.fileName, "Ratchet and Clank.iso");
+    EXPECT_EQ(request.folder, "/my images");
+    EXPECT_EQ(request.extension, "*.iso");
+    EXPECT_EQ(request.title, "");
+    EXPECT_TRUE(request.askBeforeOverwriting);
+    EXPECT_EQ(request.filter, "ISO Files (*.iso)|*.iso|CUE Files (*.cue)|*.cue|Nero Burning Image "
+                              "(*.nrg)|*.nrg|RecordNow! Global Image (*.gi)|*.gi|Sony CD/DVD "
+                              "Generator's Intermediate (*.iml)|*.iml|");
+    EXPECT_EQ(commandsOfJobs(), QStringList("dump E: \"/my images/Ratchet and Clank.iso\""));
+}
+
+TEST_F(MakeIso, APathWithoutABlankStandsBare) {
+    saveAs("/games/ratchet.iso");
+    EXPECT_FALSE(commandsOfJobs().first().contains('"'));
+}
+
+TEST_F(MakeIso, AMissingToolIsTold) {
+    removeTool();
+    saveAs("/games/ratchet.iso");
+    EXPECT_EQ(lastMessage(),
+              "tarnwell.exe was not found. Place it in the same directory as this program and try again.");
+    EXPECT_TRUE(ports.dialogs.saveFileRequests.empty());
+    expectNothingQueued();
+}
+
+TEST_F(MakeIso, ANameOfBlanksIsRefused) {
+    ui::type(frmMain.txtGameName, "   ");
+    saveAs("/games/ratchet.iso");
+    EXPECT_EQ(lastMessage(), "Please enter a name for the game.");
+    EXPECT_TRUE(ports.dialogs.saveFileRequests.empty());
+    expectNothingQueued();
+}
+
+TEST_F(MakeIso, ANameWithBlanksRoundItIsTakenAsItStands) {
+    ui::type(frmMain.txtGameName, " Ratchet ");
+    saveAs("/games/ratchet.iso");
+    EXPECT_EQ(ports.dialogs.saveFileRequests.at(0).fileName, " Ratchet .iso");
+    EXPECT_EQ(frmMain.lstJob.row(0).subItems[3], " Ratchet ");
+}
+
+TEST_F(MakeIso, ACancelledDialogChangesNothing) {
+    writeFile("old.iso", "an old image");
+    ui::click(frmMain.cmdMakeISO);
+    saveAs("");
+    expectNothingQueued();
+    EXPECT_TRUE(ports.dialogs.messages.empty());
+    EXPECT_TRUE(QFile::exists(path("old.iso")));
+}
+
+TEST_F(MakeIso, AnOldFileGoesAtOnceAndNoOther) {
+    writeFile("old.iso", "an old image");
+    writeFile("other.iso", "another image");
+    saveAs(path("old.iso"));
+    EXPECT_FALSE(QFile::exists(path("old.iso")));
+    EXPECT_TRUE(QFile::exists(path("other.iso")));
+    EXPECT_EQ(frmMain.lstJob.count(), 1);
+}
+
+TEST_F(MakeIso, WildCardsInANameDeleteNothing) {
+    writeFile("old.iso", "an old image");
+    saveAs(path("*.iso"));
+    EXPECT_TRUE(QFile::exists(path("old.iso")));
+}
+
+TEST_F(MakeIso, WhatCannotBeDeletedIsLeftToTheTool) {
+    ASSERT_TRUE(QDir(ports.folders.folder).mkdir("folder"));
+    saveAs(path("folder"));
+    EXPECT_TRUE(QDir(path("folder")).exists());
+    saveAs(path("tarnwell.exe") + "/below a file.iso");
+    EXPECT_TRUE(QFile::exists(path("tarnwell.exe")));
+    EXPECT_EQ(frmMain.lstJob.count(), 2);
+    EXPECT_TRUE(ports.dialogs.messages.empty());
+}
+
+TEST_F(MakeIso, ADriveThatTheLastQueryDoesNotKnowLeavesAGapInTheJob) {
+    frmMain.cmbOptical.tag = QString();
+    saveAs("/games/ratchet.iso");
+    expectQueued({"Make ISO", "", "/games/ratchet.iso", "RATCHET"}, "dump  /games/ratchet.iso");
+}
+
+TEST_F(MakeIso, ADriveWithoutALetterGoesByTheToolsName) {
+    frmMain.cmbOptical.tag = QString("0,");
+    saveAs("/games/ratchet.iso");
+    EXPECT_EQ(commandsOfJobs(), QStringList("dump cd0: /games/ratchet.iso"));
+}
+
+TEST_F(MakeIso, ALongNameInAnyAlphabetArrivesWhole) {
+    ui::type(frmMain.txtGameName, kLongName);
+    saveAs("/games/" + kLongName + ".iso");
+    EXPECT_EQ(ports.dialogs.saveFileRequests.at(0).fileName, kLongName + ".iso");
+    EXPECT_EQ(commandsOfJobs(), QStringList("dump E: \"/games/" + kLongName + ".iso\""));
+}
+
+TEST_F(MakeIso, NoBalloonIfTheUserWantsNone) {
+    store("BalloonTips", "1");
+    saveAs("/games/ratchet.iso");
+    EXPECT_EQ(balloons(), QStringList());
+    EXPECT_EQ(frmMain.lstJob.count(), 1);
+}
+
+TEST_F(MakeIso, TheRunningJobShowsTheFileWithoutItsFolder) {
+    saveAs("C:\\my images\\ratchet.iso");
+    ports.launcher.on("tarnwell.exe dump", {.output = {{"100%\r", 100}}, .endsAtMs = 200});
+    ui::click(frmMain.optJobQueue);
+    ui::click(frmMain.cmdStart);
+    EXPECT_EQ(frmStatus->lblJob.caption.get(), "Creating ISO File [ratchet.iso]");
+    EXPECT_EQ(frmMain.lstJob.row(0).text, "Complete");
+}
+
+} // namespace tarnwell::test
