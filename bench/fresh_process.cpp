@@ -46,11 +46,12 @@ std::vector<double> FreshProcesses::run(const QString& program, const QStringLis
 
 void inProgram(const std::function<void(DesktopProgram&)>& work) {
     DesktopProgram program;
+    program.program().start();
     QTimer::singleShot(0, [&] {
         work(program);
         program.ports().pump.end();
     });
-    program.run();
+    program.ports().pump.run();
 }
 
 void tell(const std::vector<double>& figures) {

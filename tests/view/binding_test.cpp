@@ -163,6 +163,14 @@ TEST_F(BoundControls, ClickInTheOutputIsTold) {
     EXPECT_EQ(clicks, 1);
 }
 
+TEST_F(BoundControls, OutputThatCameWhileItWasHiddenIsThereWhenItShows) {
+    ASSERT_FALSE(widget<QPlainTextEdit>(form.txtOutput).isVisible());
+    form.txtOutput.text = "first line\nlast line";
+    form.height = ui::FrmMain::kTallHeight;
+    serveEvents();
+    EXPECT_EQ(widget<QPlainTextEdit>(form.txtOutput).toPlainText(), "first line\nlast line");
+}
+
 TEST_F(BoundControls, SelectionBehindTheEndBringsTheEndIntoView) {
     samples::activity(form);
     serveEvents();

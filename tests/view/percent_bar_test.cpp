@@ -51,6 +51,19 @@ TEST(PercentBar, IsEmptyAtNothingAndFullAtItsScale) {
         << "a scale of nothing fills nothing";
 }
 
+TEST(PercentBar, LeavesNoPixelOfItselfUnpainted) {
+    PercentBar bar(nullptr);
+    bar.resize(kWidth, kHeight);
+    bar.showDrawing({"50%", 50}, 100);
+    QImage picture(bar.size(), QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    bar.render(&picture, {}, {}, {});
+    for (int y = 0; y < kHeight; ++y) {
+        for (int x = 0; x < kWidth; ++x)
+            ASSERT_EQ(picture.pixelColor(x, y).alpha(), 255) << x << ", " << y;
+    }
+}
+
 TEST(PercentBar, TextCanBeReadBesideOverAndAcrossTheFilledBox) {
     for (const double filled : {0.0, 50.0, 100.0}) {
         const QImage picture = pictureOf({"50%", filled}, 100);

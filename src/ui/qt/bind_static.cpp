@@ -6,6 +6,28 @@
 
 namespace tarnwell::view {
 
+namespace {
+
+/// Where its text has no say in a label's width, the text is not measured: some change many times a second.
+class Label final : public QLabel {
+public:
+    using QLabel::QLabel;
+
+    QSize sizeHint() const override {
+        return takesRoomItGets() ? QSize(0, fontMetrics().lineSpacing()) : QLabel::sizeHint();
+    }
+    QSize minimumSizeHint() const override {
+        return takesRoomItGets() ? sizeHint() : QLabel::minimumSizeHint();
+    }
+
+private:
+    bool takesRoomItGets() const {
+        return sizePolicy().horizontalPolicy() == QSizePolicy::Ignored && !wordWrap();
+    }
+};
+
+} // namespace
+
 QWidget* bindFrame(Binding& binding, ui::Frame& frame, QWidget* parent) {
     if (frame.caption.get().isEmpty())
         return new QWidget(parent);
@@ -18,7 +40,7 @@ QWidget* bindFrame(Binding& binding, ui::Frame& frame, QWidget* parent) {
 }
 
 QWidget* bindLabel(Binding& binding, ui::Label& label, QWidget* parent) {
-    auto* widget = new QLabel(parent);
+    auto* widget = new Label(parent);
     widget->setTextFormat(Qt::PlainText);
     binding.follow(label.caption.changed, *widget, [&label, widget] {
         // Only a label that names another widget reads shortcut marks.

@@ -77,7 +77,8 @@ QWidget* bindSeveralLines(Binding& binding, ui::TextBox& box, QWidget* parent) {
         edit->ensureCursorVisible();
     };
     const auto show = [&box, edit, showSelection] {
-        if (edit->toPlainText() == box.text.get())
+        // Laying out a text takes long, and what the tool prints mostly comes while nobody looks.
+        if (!edit->isVisible() || edit->toPlainText() == box.text.get())
             return;
         edit->setPlainText(box.text);
         showSelection();
@@ -92,6 +93,13 @@ QWidget* bindSeveralLines(Binding& binding, ui::TextBox& box, QWidget* parent) {
         show();
     });
     watchUser(binding, box, *edit);
+    new EventWatcher(*edit, [&binding, show](QEvent& event) {
+        if (event.type() == QEvent::Show) {
+            const Binding::Showing guard(binding);
+            show();
+        }
+        return false;
+    });
     new EventWatcher(*edit->viewport(), [&box](QEvent& event) {
         if (isClick(event))
             ui::click(box);

@@ -50,6 +50,7 @@ QPalette paletteOf(const ui::PictureBox& picture) {
 PercentBar::PercentBar(QWidget* parent) : QProgressBar(parent) {
     setRange(0, kAccessibleSteps);
     setValue(0);
+    setAttribute(Qt::WA_OpaquePaintEvent); // spares the frame below it a painting
 }
 
 void PercentBar::showDrawing(const ui::PictureBox::Drawing& drawing, double scaleWidth) {

@@ -1,5 +1,6 @@
 #include "ui/qt/status_window_view.h"
 
+#include "ui/qt/paced_painting.h"
 #include "ui/qt/status_window_layout.h"
 
 namespace tarnwell::view {
@@ -11,6 +12,9 @@ public:
     explicit Window(ui::FrmStatus& form) : FormView(form) {
         start(std::make_unique<StatusWindowLayout>(form, controls(), *this));
     }
+
+private:
+    PacedPainting pacedPainting_{*this};
 };
 
 } // namespace
