@@ -35,8 +35,8 @@ int runAll(bool quick) {
     const Effort& effort = quick ? kQuick : kFull;
     std::printf(
         "Every process is a fresh one. Figures are medians; what is compared was run in turns, one and "
-        "the other,\n%d starts and %d fillings of the list. Other work on this machine makes them "
-        "worse, never better.\n\n",
+        "the other,\n%d starts and %d fillings of the list. Other work on this machine makes the "
+        "times longer.\n\n",
         effort.starts, effort.rounds);
     const FreshProcesses processes;
     Report report;

@@ -40,9 +40,10 @@ void Report::add(const Figure& figure) {
     const double limit = figure.atMost > 0 ? figure.atMost : figure.atLeast;
     const QString aim = (figure.atMost > 0 ? "at most " : "at least ") +
                         (compared ? number(limit) + 'x' : withUnit(limit, figure.unit));
+    const char* verdict = met ? "ok" : figure.atMost > 0 ? "over" : "under";
     printLine(figure.what, withUnit(figure.measured, figure.unit),
               compared ? withUnit(figure.against, figure.unit) : QString(),
-              compared ? number(judged) + 'x' : QString(), aim, met ? "ok" : "over");
+              compared ? number(judged) + 'x' : QString(), aim, verdict);
 }
 
 double median(std::vector<double> values) {
