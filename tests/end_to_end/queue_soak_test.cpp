@@ -54,6 +54,8 @@ TEST_F(QueueSoak, ManyJobsCostNeitherMemoryNorFiles) {
         const qsizetype filesBefore = user.look(&openFiles);
         user.click("optJobQueue");
         user.click("cmdStart");
+        user.waitFor("the status window", [&] { return user.windowUp("frmStatus"); });
+        user.click("frmStatus.cmdMinimize"); // as for a long night
         waitForJob(user, kWarmedUp);
         const qsizetype memoryBefore = residentKilobytes();
         for (int job = kWarmedUp; job <= kJobs; job += kWarmedUp)
