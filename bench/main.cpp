@@ -10,18 +10,16 @@
 namespace tarnwell::bench {
 namespace {
 
-constexpr Effort kFull{.starts = 21, .progressSeconds = 20, .commands = 200, .rounds = 15};
-constexpr Effort kQuick{.starts = 1, .progressSeconds = 1, .commands = 5, .rounds = 1};
+constexpr Effort kFull{.starts = 21, .progressSeconds = 20, .commands = 200, .rounds = 15, .jobs = 100};
+constexpr Effort kQuick{.starts = 1, .progressSeconds = 1, .commands = 5, .rounds = 1, .jobs = 3};
 
 int runChild(const QStringList& arguments) {
     constexpr struct {
         const char* name;
         void (*run)(int);
-    } kChildren[] = {{"first-window", firstWindow},
-                     {"progress-load", progressLoad},
-                     {"command-delay", commandDelay},
-                     {"interpreter-speed", interpreterSpeed},
-                     {"game-list", gameList}};
+    } kChildren[] = {{"first-window", firstWindow},   {"progress-load", progressLoad},
+                     {"command-delay", commandDelay}, {"interpreter-speed", interpreterSpeed},
+                     {"game-list", gameList},         {"queue-overhead", queueOverhead}};
     for (const auto& child : kChildren) {
         if (arguments.value(0) == child.name) {
             child.run(arguments.value(1).toInt());
@@ -42,7 +40,7 @@ int runAll(bool quick) {
     Report report;
     report.printHeadings();
     for (const auto measure : {measureFirstWindow, measureProgressLoad, measureCommandDelay,
-                               measureInterpreterSpeed, measureGameList})
+                               measureInterpreterSpeed, measureGameList, measureQueueOverhead})
         measure(processes, effort, report);
     return report.complete() ? 0 : 1;
 }

@@ -12,6 +12,7 @@ struct Effort {
     int progressSeconds;
     int commands;
     int rounds;
+    int jobs;
 };
 
 void measureFirstWindow(const FreshProcesses& processes, const Effort& effort, Report& report);
@@ -19,6 +20,7 @@ void measureProgressLoad(const FreshProcesses& processes, const Effort& effort, 
 void measureCommandDelay(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measureInterpreterSpeed(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measureGameList(const FreshProcesses& processes, const Effort& effort, Report& report);
+void measureQueueOverhead(const FreshProcesses& processes, const Effort& effort, Report& report);
 
 /// The children; `argument` is the part of the effort that concerns them.
 void firstWindow(int argument);
@@ -26,5 +28,6 @@ void progressLoad(int seconds);
 void commandDelay(int commands);
 void interpreterSpeed(int rounds);
 void gameList(int rounds);
+void queueOverhead(int jobs);
 
 } // namespace tarnwell::bench

@@ -1,10 +1,13 @@
 /// Stands in for the tool where its timing must be known exactly:
 ///   progress LINES-PER-SECOND SECONDS   prints progress lines, evenly spread
 ///   farewell MILLISECONDS               lives so long, prints the time in nanoseconds, and is gone
+///   extract MILLISECONDS                lives so long, is a job that succeeds, and notes its start and its
+///                                       end, in nanoseconds, in the file `stamps` beside it
 
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <string>
 #include <string_view>
 #include <thread>
 
@@ -27,11 +30,28 @@ static void farewell(int milliseconds) {
     std::_Exit(0);
 }
 
+static void extract(const char* program, int milliseconds) {
+    const auto start = Clock::now();
+    std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+    std::printf("100%%, 0 min remaining, 9.00 MB/sec\r");
+    std::fflush(stdout);
+    const std::string path = program;
+    std::FILE* const stamps = std::fopen((path.substr(0, path.rfind('/') + 1) + "stamps").c_str(), "a");
+    if (!stamps)
+        std::_Exit(1);
+    std::fprintf(stamps, "%lld %lld\n", static_cast<long long>(start.time_since_epoch().count()),
+                 static_cast<long long>(Clock::now().time_since_epoch().count()));
+    std::fclose(stamps);
+    std::_Exit(0);
+}
+
 int main(int argc, char** argv) {
     if (argc == 4 && argv[1] == std::string_view("progress"))
         progress(std::atoi(argv[2]), std::atoi(argv[3]));
     else if (argc == 3 && argv[1] == std::string_view("farewell"))
         farewell(std::atoi(argv[2]));
+    else if (argc == 3 && argv[1] == std::string_view("extract"))
+        extract(argv[0], std::atoi(argv[2]));
     else
         return 2;
     return 0;

@@ -10,6 +10,11 @@ namespace tarnwell::tour {
 namespace {
 
 const QString kGame = QStringLiteral("Salt and Sand");
+const QString kFileExists = QStringLiteral("Error (File already exists)");
+
+/// Five jobs at the pace of the single install would be a long tour.
+constexpr char kBriskly[] = "delay_ms_per_step = 15\n";
+constexpr int kChessDrive = 4;
 
 /// The dialog for files sorts its list some time after it has opened.
 constexpr std::chrono::milliseconds kDialogSettles{400};
@@ -34,6 +39,9 @@ void GuidedTour::play() {
     cancelInstall();
     completeInstall();
     lookAtResult();
+    queueJobs();
+    cancelQueue();
+    completeQueue();
 }
 
 void GuidedTour::readConsole() {
@@ -111,6 +119,93 @@ void GuidedTour::lookAtResult() {
     user_.waitUntilIdle();
     tell("activity", "View Tarnwell Activity: the last command and what the tool said.");
     expect(bench_.run({"tarn_toc", "hdd1:"}).contains(kGame), "the game on the disk");
+}
+
+void GuidedTour::queueJobs() {
+    user_.click("chkOutput");
+    user_.selectRow("lstHD", kGame);
+    QFile::copy(image_, backup_); // is in the way of the copy
+    user_.click("cmdBackupPC");
+    user_.pickFile(backup_);
+    user_.waitUntilIdle();
+    tell("queued", "Copy to PC: the copy is no more than a job in the queue yet.");
+    user_.click("cmdBackupHDD");
+    user_.clickMenuEntry("mnuHDD(1)");
+    user_.waitUntilIdle();
+    queueInstall();
+    user_.click("optBrowse");
+    user_.selectRow("lstHD", "Lantern");
+    user_.click("cmdDelete");
+    tell("delete-menu", "Delete: now, or with the other jobs?");
+    user_.clickMenuEntry("mnuDeleteQueue");
+    user_.agree();
+    user_.waitUntilIdle();
+    queueMakeIso();
+    user_.click("optJobQueue");
+    user_.waitUntilIdle();
+    expectResults({"Pending", "Pending", "Pending", "Pending", "Pending"});
+    tell("jobs", "Five jobs of five kinds wait in the queue.");
+}
+
+void GuidedTour::cancelQueue() {
+    bench_.behave(kBriskly);
+    user_.click("cmdStart");
+    waitForHalfOfJob(3);
+    user_.bringBack("frmMain");
+    user_.moveAside("frmStatus", "frmMain");
+    tell("queue-runs", "Start Job Queue: the first job has failed, because its file exists; the third runs.");
+    user_.click("frmStatus.cmdStop");
+    user_.waitUntilIdle();
+    expectResults({kFileExists, "Complete", "Aborted", "Aborted", "Aborted"});
+    tell("queue-cancelled", "Cancel: the rest of the queue is aborted.");
+}
+
+void GuidedTour::completeQueue() {
+    QFile::remove(backup_);
+    user_.click("cmdStart");
+    waitForHalfOfJob(5);
+    tell("queue-again", "Started again with the old file out of the way: what is complete is not repeated.");
+    user_.waitUntilIdle();
+    user_.bringBack("frmMain");
+    expectResults({"Complete", "Complete", "Complete", "Complete", "Complete"});
+    tell("queue-done", "All jobs are complete.");
+    expect(!bench_.run({"tarn_toc", "hdd1:"}).contains("Lantern"), "the deleted game to be gone");
+    expect(bench_.run({"tarn_toc", "hdd2:"}).contains(kGame), "the copy on the second disk");
+}
+
+void GuidedTour::queueInstall() {
+    user_.click("optInstall");
+    fillInstallPage();
+    user_.type("txtGameName", kGame + " 2");
+    user_.click("cmdAddGame");
+    user_.waitUntilIdle();
+}
+
+void GuidedTour::queueMakeIso() {
+    user_.click("optInstall");
+    user_.click("optOptical");
+    user_.waitUntilIdle();
+    user_.choose("cmbOptical", kChessDrive);
+    user_.waitUntilIdle();
+    user_.click("cmdMakeISO");
+    user_.pickFile(bench_.path("Pocket Chess.iso"));
+    user_.waitUntilIdle();
+}
+
+void GuidedTour::waitForHalfOfJob(int job) {
+    user_.waitForText("lblTask", QString("Currently on Job %1 of 5").arg(job));
+    // The bar shows the job before until this one has told of itself.
+    user_.waitFor("half of the job", [this] {
+        const int percent = user_.percent("picCurrent");
+        return percent >= 50 && percent < 100;
+    });
+}
+
+void GuidedTour::expectResults(const QStringList& results) {
+    const QStringList jobs = user_.rows("lstJob");
+    expect(jobs.size() == results.size(), QString("%1 jobs").arg(results.size()));
+    for (qsizetype i = 0; i < jobs.size(); ++i)
+        expect(jobs[i].startsWith(results[i] + " | "), "\"" + results[i] + "\" for " + jobs[i]);
 }
 
 void GuidedTour::fillInstallPage() {

@@ -7,13 +7,14 @@
 
 namespace tarnwell::tour {
 
-/// Shows what the program can do: a console and a disk are looked at, a sample image is installed. Each step
-/// leaves a picture and a line of plain words; one that goes otherwise than expected ends the tour.
+/// Shows what the program can do: a console and a disk are looked at, a sample image is installed, a queue of
+/// jobs is worked off. Each step leaves a picture and a line of plain words; one that goes otherwise than
+/// expected ends the tour.
 class GuidedTour {
 public:
     GuidedTour(User& user, const Workbench& bench, const QDir& pictures)
         : user_(user), bench_(bench), pictures_(pictures), samples_(bench.makeSamples()),
-          image_(samples_ + "/cd-game.iso") {}
+          image_(samples_ + "/cd-game.iso"), backup_(bench.path("Salt and Sand.iso")) {}
 
     void play();
 
@@ -24,7 +25,14 @@ private:
     void cancelInstall();
     void completeInstall();
     void lookAtResult();
+    void queueJobs();
+    void cancelQueue();
+    void completeQueue();
 
+    void queueInstall();
+    void queueMakeIso();
+    void waitForHalfOfJob(int job);
+    void expectResults(const QStringList& results);
     void fillInstallPage();
     void startInstall();
     /// Both windows hide when an install has ended; the status window comes back with the main window.
@@ -35,7 +43,7 @@ private:
     User& user_;
     const Workbench& bench_;
     const QDir pictures_;
-    const QString samples_, image_;
+    const QString samples_, image_, backup_;
     int step_ = 0;
 };
 

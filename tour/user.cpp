@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QFileDialog>
 #include <QGroupBox>
+#include <QInputDialog>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -79,6 +80,16 @@ void typeInto(QWidget& widget, const QString& text) {
     sendKey(widget, Qt::Key_Delete);
     for (const QChar letter : text)
         sendKey(widget, Qt::Key_unknown, {}, letter);
+}
+
+QModelIndex rowWith(const QAbstractItemModel& model, const QString& text) {
+    for (int row = 0; row < model.rowCount(); ++row) {
+        for (int column = 0; column < model.columnCount(); ++column) {
+            if (model.index(row, column).data().toString() == text)
+                return model.index(row, 0);
+        }
+    }
+    return {};
 }
 
 QString captionOf(const QWidget& widget) {
@@ -194,12 +205,62 @@ void User::pickFile(const QString& path) {
 }
 
 QString User::confirmMessage() {
+    return closeMessage(QMessageBox::Ok);
+}
+
+QString User::agree() {
+    return closeMessage(QMessageBox::Yes);
+}
+
+QString User::closeMessage(int button) {
     waitFor("a message", [] { return openDialog<QMessageBox>() != nullptr; });
     auto* const box = look([] { return openDialog<QMessageBox>(); });
     const QString text = look([&] { return box->text().remove(QChar(0x200B)); });
-    look([&] { sendClick(*box->button(QMessageBox::Ok), box->button(QMessageBox::Ok)->rect().center()); });
+    look([&] {
+        QAbstractButton* const pressed = box->button(static_cast<QMessageBox::StandardButton>(button));
+        if (!pressed)
+            throw Stuck("The message has no such button: " + text);
+        sendClick(*pressed, pressed->rect().center());
+    });
     waitFor("the message to close", [&] { return openDialog<QMessageBox>() != box; });
     return text;
+}
+
+void User::answer(const QString& line) {
+    waitFor("a box that asks for a line", [] { return openDialog<QInputDialog>() != nullptr; });
+    look([&] {
+        auto* const edit = openDialog<QInputDialog>()->findChild<QLineEdit*>();
+        typeInto(*edit, line);
+        sendKey(*edit, Qt::Key_Return, {}, "\r");
+    });
+    waitFor("the box to close", [] { return openDialog<QInputDialog>() == nullptr; });
+}
+
+void User::selectRow(const QString& list, const QString& text) {
+    look([&] {
+        auto& view = static_cast<QTreeView&>(reachable(list));
+        const QModelIndex row = rowWith(*view.model(), text);
+        if (!row.isValid())
+            throw Stuck("There is no " + text + " in " + list + '.');
+        view.scrollTo(row);
+        view.setFocus(Qt::MouseFocusReason);
+        sendClick(*view.viewport(), view.visualRect(row).center());
+    });
+}
+
+void User::editLabel(const QString& list, const QString& text) {
+    look([&] { sendKey(reachable(list), Qt::Key_F2); });
+    const auto editor = [&] {
+        return static_cast<QTreeView&>(widget(list)).viewport()->findChild<QLineEdit*>();
+    };
+    waitFor("the label to be edited", [&] { return editor() != nullptr; });
+    auto* const edit = look(editor);
+    look([&] { typeInto(*edit, text); });
+    act([edit] {
+        sendKey(*edit, Qt::Key_Return, {}, "\r");
+        // The edited text reaches the program by an event of its own.
+        QCoreApplication::processEvents();
+    });
 }
 
 void User::closeWindow(const QString& form) {

@@ -41,6 +41,14 @@ public:
     void pickFile(const QString& path);
     /// Waits for a message box, presses its OK and returns its text.
     QString confirmMessage();
+    /// The same with the Yes of a question.
+    QString agree();
+    /// Writes into the box that asks for a line, and presses Enter.
+    void answer(const QString& line);
+    /// Clicks the first row that has `text` in one of its columns.
+    void selectRow(const QString& list, const QString& text);
+    /// Edits the label of the selected row.
+    void editLabel(const QString& list, const QString& text);
     /// Presses the close box of a window.
     void closeWindow(const QString& form);
     /// As with a click in the desktop's list of windows.
@@ -88,6 +96,7 @@ private:
     /// To be called by `look`.
     static QWidget& widget(const QString& name);
     static QWidget& reachable(const QString& name);
+    QString closeMessage(int button);
     static void post(std::function<void()> function);
     void act(std::function<void()> gesture);
 
