@@ -103,8 +103,7 @@ void GuidedTour::completeInstall() {
     startInstall();
     waitForPercent(33);
     tell("third", "Once more; a third is done.");
-    user_.bringBack("frmMain");
-    user_.moveAside("frmStatus", "frmMain");
+    showBothWindows();
     user_.click("optBrowse");
     waitForPercent(66);
     tell("two-thirds", "Two thirds; meanwhile the main window can be looked at, but starts nothing.");
@@ -151,8 +150,7 @@ void GuidedTour::cancelQueue() {
     bench_.behave(kBriskly);
     user_.click("cmdStart");
     waitForHalfOfJob(3);
-    user_.bringBack("frmMain");
-    user_.moveAside("frmStatus", "frmMain");
+    showBothWindows();
     tell("queue-runs", "Start Job Queue: the first job has failed, because its file exists; the third runs.");
     user_.click("frmStatus.cmdStop");
     user_.waitUntilIdle();
@@ -164,9 +162,9 @@ void GuidedTour::completeQueue() {
     QFile::remove(backup_);
     user_.click("cmdStart");
     waitForHalfOfJob(5);
+    showBothWindows();
     tell("queue-again", "Started again with the old file out of the way: what is complete is not repeated.");
     user_.waitUntilIdle();
-    user_.bringBack("frmMain");
     expectResults({"Complete", "Complete", "Complete", "Complete", "Complete"});
     tell("queue-done", "All jobs are complete.");
     expect(!bench_.run({"tarn_toc", "hdd1:"}).contains("Lantern"), "the deleted game to be gone");
@@ -222,6 +220,11 @@ void GuidedTour::fillInstallPage() {
 void GuidedTour::startInstall() {
     user_.click("cmdInstall");
     user_.waitFor("the status window", [this] { return user_.windowUp("frmStatus"); });
+}
+
+void GuidedTour::showBothWindows() {
+    user_.bringBack("frmMain");
+    user_.moveAside("frmStatus", "frmMain");
 }
 
 void GuidedTour::showWindows() {

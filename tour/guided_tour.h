@@ -35,6 +35,8 @@ private:
     void expectResults(const QStringList& results);
     void fillInstallPage();
     void startInstall();
+    /// Side by side, while work is under way.
+    void showBothWindows();
     /// Both windows hide when an install has ended; the status window comes back with the main window.
     void showWindows();
     void waitForPercent(int percent);

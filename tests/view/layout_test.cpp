@@ -93,6 +93,16 @@ TEST_P(Fonts, EverythingFitsInTheStatusWindow) {
     expectGood(*view.window());
 }
 
+TEST_P(Fonts, TheSpeedOfAFastDiskIsNotCut) {
+    ui::FrmStatus form;
+    const StatusWindowView view(form);
+    samples::jobRunning(form);
+    form.lblSpeed.caption = "Speed: 348.38 MB/sec";
+    serve();
+    const auto* speed = view.window()->findChild<QLabel*>("lblSpeed");
+    EXPECT_GE(speed->width(), speed->sizeHint().width());
+}
+
 TEST_P(Fonts, FontsOfTheControlsAreFittedToo) {
     ui::FrmMain form;
     const MainWindowView window(form);

@@ -33,16 +33,18 @@ void StatusWindowLayout::layOutOverall() {
 
 void StatusWindowLayout::layOutCurrent() {
     const auto& widget = *this;
+    constexpr char kWideSpeed[] = "Speed: 9999.99 MB/sec"; // of the fastest disks
     auto* job = static_cast<QLabel*>(widget(form_.lblJob));
     takesRoomItGets(job);
     takesRoomItGets(widget(form_.lblRemaining));
-    takesRoomItGets(widget(form_.lblSpeed));
+    QWidget* speed = widget(form_.lblSpeed);
+    takesRoomItGets(speed);
+    speed->setMinimumWidth(speed->fontMetrics().horizontalAdvance(kWideSpeed));
     job->setWordWrap(true);
     job->setAlignment(Qt::AlignLeading | Qt::AlignTop);
     job->setMinimumHeight(2 * job->fontMetrics().lineSpacing());
 
-    QHBoxLayout* texts =
-        row({widget(form_.lblSpeed), widget(form_.lblRemaining), widget(form_.lblCurrentElapsed)});
+    QHBoxLayout* texts = row({speed, widget(form_.lblRemaining), widget(form_.lblCurrentElapsed)});
     texts->setStretch(0, 2);
     texts->setStretch(1, 3);
     QVBoxLayout* current = column(widget(form_.fmCurrent));
