@@ -2,6 +2,8 @@
 #include "first_paint.h"
 #include "measurements.h"
 
+#include <QCoreApplication>
+
 namespace tarnwell::bench {
 
 namespace {
@@ -47,7 +49,8 @@ void measureFirstWindow(const FreshProcesses& processes, const Effort& effort, R
 }
 
 void firstWindow(int) {
-    DesktopProgram program;
+    const QString folder = QCoreApplication::applicationDirPath();
+    DesktopProgram program{QtSystemFolders(folder, folder)};
     const FirstPaint firstPaint(program.mainWindow());
     program.run();
 }

@@ -45,7 +45,8 @@ std::vector<double> FreshProcesses::run(const QString& program, const QStringLis
 }
 
 void inProgram(const std::function<void(DesktopProgram&)>& work) {
-    DesktopProgram program;
+    const QString folder = QCoreApplication::applicationDirPath();
+    DesktopProgram program{QtSystemFolders(folder, folder)};
     program.program().start();
     QTimer::singleShot(0, [&] {
         work(program);

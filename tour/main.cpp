@@ -22,7 +22,7 @@ QString play(const QDir& pictures) {
     try {
         const Workbench bench;
         bench.behave(kUnhurried);
-        DesktopProgram program{QtSystemFolders(bench.folder())};
+        DesktopProgram program{QtSystemFolders(bench.folder(), bench.folder())};
         return runWithUser(program, [&](User& user) { GuidedTour(user, bench, pictures).play(); });
     } catch (const std::exception& error) {
         return QString::fromLocal8Bit(error.what());

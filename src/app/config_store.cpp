@@ -60,8 +60,7 @@ void save(const IniText& ini, const QString& path) {
 } // namespace
 
 QString ConfigStore::AppFolder() const {
-    const QString folder = folders_.programFolder();
-    return folder.endsWith(QDir::separator()) ? folder : folder + QDir::separator();
+    return WithSeparator(folders_.programFolder());
 }
 
 QString ConfigStore::ToolPath() const {
@@ -93,6 +92,11 @@ void ConfigStore::write(const QString& key, const QString& value) const {
     ConfigWrite(kSection, key, value, path());
 }
 
+QString ConfigStore::defaultText(const QString& key) {
+    const auto* found = std::ranges::find_if(kDefaults, [&](const Default& d) { return key == d.key; });
+    return found == std::end(kDefaults) ? QString() : found->value;
+}
+
 void ConfigStore::WriteDefaultConfig() const {
     IniText ini = load(path());
     for (const auto& [key, value] : kDefaults)
@@ -106,6 +110,14 @@ bool FileExists(const QString& path) {
     if (!name.contains('*') && !name.contains('?'))
         return file.isFile();
     return !QDir(file.path()).entryList({name}, QDir::Files).isEmpty();
+}
+
+bool DirExists(const QString& path) {
+    return !path.isEmpty() && QFileInfo(path).isDir();
+}
+
+QString WithSeparator(const QString& folder) {
+    return folder.endsWith(QDir::separator()) ? folder : folder + QDir::separator();
 }
 
 QString ConfigRead(const QString& section, const QString& key, const QString& path) {

@@ -26,6 +26,8 @@ public:
     int number(const QString& key) const;
     void write(const QString& key, const QString& value) const;
     void writeNumber(const QString& key, int value) const { write(key, QString::number(value)); }
+    /// What WriteDefaultConfig writes for a key.
+    static QString defaultText(const QString& key);
     /// Sets every key but the data folder of the tool to its default; a new file has them in this order.
     void WriteDefaultConfig() const;
 
@@ -36,6 +38,12 @@ private:
 /// Whether the file system has a file that matches `path`; the last element may hold the wild cards * and ?.
 /// Folders do not count.
 bool FileExists(const QString& path);
+
+/// Whether there is such a folder.
+bool DirExists(const QString& path);
+
+/// The folder with a separator at its end, as the store holds folders.
+QString WithSeparator(const QString& folder);
 
 /// Reads as the platform's own calls for INI files do: section and key without regard to case, blanks round
 /// both and one pair of quotes round the value do not count, the first match wins, at most 254 characters are

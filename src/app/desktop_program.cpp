@@ -10,6 +10,7 @@ DesktopProgram::DesktopProgram(const QtSystemFolders& folders)
     : ports_(
           view::applicationIcon(), [this] { return mainWindow_.currentScale().pixelsPerTwip(); }, folders),
       program_(ports_.ports()), mainWindow_(program_.shared().frmMain),
+      settingsWindow_(program_.shared().frmSettings.untouched()),
       statusWindow_(program_.shared().frmStatus.untouched()) {
     QGuiApplication::setWindowIcon(view::applicationIcon());
     mainWindow_.hideMinimises = !ports_.tray.available();

@@ -3,6 +3,7 @@
 #include "app/program.h"
 #include "platform/desktop_ports.h"
 #include "ui/qt/main_window_view.h"
+#include "ui/qt/settings_window_view.h"
 #include "ui/qt/status_window_view.h"
 
 namespace tarnwell {
@@ -19,12 +20,14 @@ public:
     Program& program() { return program_; }
     DesktopPorts& ports() { return ports_; }
     view::MainWindowView& mainWindow() { return mainWindow_; }
+    view::SettingsWindowView& settingsWindow() { return settingsWindow_; }
     view::StatusWindowView& statusWindow() { return statusWindow_; }
 
 private:
     DesktopPorts ports_;
     Program program_;
     view::MainWindowView mainWindow_;
+    view::SettingsWindowView settingsWindow_;
     view::StatusWindowView statusWindow_;
 };
 

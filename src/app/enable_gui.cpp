@@ -19,6 +19,7 @@ bool staysOn(const QString& name) {
 } // namespace
 
 void GuiSwitch::EnableGUI(bool enable) {
+    paused_ = !enable;
     if (enable)
         restore();
     else

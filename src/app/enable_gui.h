@@ -15,12 +15,14 @@ public:
 
     /// Callers pair the two: a second `false` in a row would remember the paused state.
     void EnableGUI(bool enable);
+    bool paused() const { return paused_; }
 
 private:
     void pause();
     void restore();
 
     ui::Form& frmMain_;
+    bool paused_ = false;
     std::vector<bool> blnControlState_; ///< one entry a control, in the order of the collection
 };
 

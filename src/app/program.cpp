@@ -27,9 +27,13 @@ Program::Program(const Ports& ports)
       deviceSelection_(shared_, channel_, interpreter_), installSource_(shared_, channel_, interpreter_),
       installNow_(shared_, channel_, StdIO_, guiSwitch_, completionActions_), makeIso_(shared_, jobList_),
       copyGames_(shared_, jobList_), deleteGames_(shared_, channel_, jobList_),
-      renameGame_(shared_, channel_), exportGameList_(shared_) {
+      renameGame_(shared_, channel_), exportGameList_(shared_), appearance_(shared_),
+      diskTools_(shared_, channel_, interpreter_, guiSwitch_), toolConfig_(shared_),
+      dataFolder_(shared_, toolConfig_), guiSettings_(shared_, dataFolder_, sounds_, appearance_),
+      settingsWindow_(shared_, guiSettings_, dataFolder_, toolConfig_) {
     const auto dispatch = [this](const std::function<void()>& handler) { dispatcher_.dispatch(handler); };
     shared_.frmMain.dispatcher = dispatch;
+    shared_.frmSettings.untouched().dispatcher = dispatch;
     shared_.frmStatus.untouched().dispatcher = dispatch;
     shared_.frmMain.Load = [this] { loadMain(); };
 }
@@ -40,7 +44,7 @@ void Program::start() {
         if (!shared_.config.exists())
             shared_.config.WriteDefaultConfig();
         shared_.frmMain.load();
-        sounds_.load();
+        shared_.frmSettings.untouched().load();
         TrayAdd(shared_.ports.tray, shared_.title);
         shared_.frmMain.txtOutput.caretVisible = false;
         layOutMain();

@@ -13,6 +13,9 @@
 #include "queue/queue_runner.h"
 #include "queue/sounds.h"
 #include "queue/status_window.h"
+#include "settings/appearance.h"
+#include "settings/disk_tools.h"
+#include "settings/settings_window.h"
 #include "tool/std_io.h"
 #include "tool/tool_channel.h"
 #include "workflows/copy_games.h"
@@ -65,6 +68,12 @@ private:
     DeleteGames deleteGames_;
     RenameGame renameGame_;
     ExportGameList exportGameList_;
+    Appearance appearance_;
+    DiskTools diskTools_;
+    ToolConfig toolConfig_;
+    DataFolder dataFolder_;
+    GuiSettings guiSettings_;
+    SettingsWindow settingsWindow_;
 };
 
 } // namespace tarnwell

@@ -3,6 +3,7 @@
 #include "app/config_store.h"
 #include "platform/ports.h"
 #include "ui/frm_main.h"
+#include "ui/frm_settings.h"
 #include "ui/frm_status.h"
 
 /// What all parts of the program share: the windows, the flags, the store, the ports.
@@ -15,6 +16,7 @@ struct Shared {
     ConfigStore config;
 
     ui::FrmMain frmMain;
+    ui::LoadedOnTouch<ui::FrmSettings> frmSettings;
     ui::LoadedOnTouch<ui::FrmStatus> frmStatus;
 
     QString title; ///< the application's title, which message boxes and the tray tip carry
@@ -28,6 +30,7 @@ struct Shared {
     bool blnJobStopped = false;     ///< the user pressed Cancel in frmStatus
     bool blnQueryHD = false;        ///< the next query output fills cmbHD and mnuHDD
     bool blnQueryOptical = false;   ///< the next query output fills cmbOptical
+    bool blnQuerySettings = false;  ///< the next query output fills the cmbHD of frmSettings
     bool blnDiscInfo = false;       ///< the next output answers cdvd_info2
     bool blnReadTOC = false;        ///< the next output answers tarn_toc; its chunks are withheld
 

@@ -22,6 +22,10 @@ QString diskEntry(const QString& line) {
     return Trim(Mid(line, 2, InStr(line, ":"))) + "  [" + FormatNumber(sizeInGigabytes(line), "#.0") + " GB]";
 }
 
+bool isFormatted(const QString& line) {
+    return line.contains(QLatin1String("formatted Playstation 2 HDD"));
+}
+
 QString driveEntry(const QString& line) {
     return Mid(line, 2, kOpticalNameLength) + "  [" + FormatNumber(sizeInGigabytes(line), "#.00") + "GB]";
 }
@@ -32,7 +36,7 @@ public:
     explicit DiskReader(ui::FrmMain& form) : form_(form) {}
 
     void read(const QString& line) {
-        if (line.contains(QLatin1String("formatted Playstation 2 HDD")))
+        if (isFormatted(line))
             add(diskEntry(line));
         if (targets_ > 0)
             tidyCopyMenu();
@@ -119,6 +123,18 @@ Then ReadDevices(Shared& shared, const QString& text) {
     }
     shared.blnQueryOptical = false;
     return noDrives ? Then::Stop : Then::NextStage;
+}
+
+void ReadSettingsDisks(Shared& shared, const QString& text) {
+    ui::ComboBox& disks = shared.frmSettings->cmbHD;
+    for (const QString& line : text.split('\n')) {
+        if (!line.contains(QLatin1String("\thdd")))
+            continue;
+        disks.addItem(diskEntry(line) +
+                      (isFormatted(line) ? " - Playstation2 Formatted" : " - Unknown Format"));
+        disks.listIndex = 0;
+    }
+    shared.blnQuerySettings = false;
 }
 
 } // namespace tarnwell

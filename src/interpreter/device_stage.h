@@ -12,4 +12,8 @@ struct Shared;
 /// of optical drives (`blnQueryOptical`). Later commands cut the device's name out of an entry's text again.
 Then ReadDevices(Shared& shared, const QString& text);
 
+/// Reads the same answer into the device list of the disk tools (`blnQuerySettings`), which shows the disks
+/// that are still to be formatted, too.
+void ReadSettingsDisks(Shared& shared, const QString& text);
+
 } // namespace tarnwell

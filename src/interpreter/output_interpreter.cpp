@@ -17,6 +17,8 @@ void OutputInterpreter::ParseToolOutput(const QString& text) {
     }
     if ((shared_.blnQueryHD || shared_.blnQueryOptical) && ReadDevices(shared_, text) == Then::Stop)
         return;
+    if (shared_.blnQuerySettings)
+        ReadSettingsDisks(shared_, text);
 
     bool faultsIgnored = false;
     if (shared_.jobRunning()) {

@@ -106,4 +106,16 @@ QString PowerOffCommand(const QString& address) {
     return "poweroff " + address;
 }
 
+QString FormatCommand(const QString& device) {
+    return "initialize " + device;
+}
+
+QString BackupTocCommand(const QString& device, const QString& path) {
+    return "backup_toc " + device + ' ' + QuoteArg(path);
+}
+
+QString RestoreTocCommand(const QString& device, const QString& path) {
+    return "restore_toc " + device + ' ' + QuoteArg(path);
+}
+
 } // namespace tarnwell

@@ -45,5 +45,8 @@ QString CopyToDeviceCommand(const QString& type, const QString& target, const QS
 QString DeleteCommand(const QString& device, const QString& name);
 QString RenameCommand(const QString& device, const QString& oldName, const QString& newName);
 QString PowerOffCommand(const QString& address);
+QString FormatCommand(const QString& device);
+QString BackupTocCommand(const QString& device, const QString& path);
+QString RestoreTocCommand(const QString& device, const QString& path);
 
 } // namespace tarnwell

@@ -21,6 +21,10 @@ void interruptProcess(qint64 processId);
 /// The path of the system's command interpreter.
 QString commandInterpreter();
 
+/// What SystemFolders tells of the user's folders.
+QString applicationData();
+std::optional<WindowsProfile> windowsProfile();
+
 std::unique_ptr<Processes> makeProcesses();
 std::unique_ptr<Sound> makeSound();
 std::unique_ptr<Power> makePower();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/control.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
@@ -103,6 +105,12 @@ struct SaveFileRequest {
     bool askBeforeOverwriting = false;
 };
 
+/// What the folder dialog offers.
+struct ChooseFolderRequest {
+    QString title{};
+    QString folder{}; ///< where it starts; empty: the dialog's own start folder
+};
+
 /// Boxes that wait for the user, with the program's title. All of them pump events while they are open.
 class Dialogs {
 public:
@@ -110,7 +118,8 @@ public:
     /// A plain text with one OK button.
     virtual void message(const QString& text, MessageIcon icon, const QString& title) = 0;
     /// A plain text with the buttons Yes and No. Whether the answer was Yes; closing the box is a No.
-    virtual bool question(const QString& text, const QString& title) = 0;
+    virtual bool question(const QString& text, const QString& title,
+                          MessageIcon icon = MessageIcon::Exclamation) = 0;
     /// A line for the user to write, filled with `text`. What stands in it on OK; nothing on Cancel.
     virtual std::optional<QString> input(const QString& prompt, const QString& title,
                                          const QString& text) = 0;
@@ -118,6 +127,14 @@ public:
     virtual std::optional<QString> openFile(const OpenFileRequest& request) = 0;
     /// The same; nothing is written.
     virtual std::optional<QString> saveFile(const SaveFileRequest& request) = 0;
+    /// The chosen folder in the platform's own form, without a separator at its end unless it is a root;
+    /// nothing if the user cancelled.
+    virtual std::optional<QString> chooseFolder(const ChooseFolderRequest& request) = 0;
+    /// Starts at `current`, as far as that font is there; nothing if the user cancelled.
+    virtual std::optional<ui::Font> chooseFont(const ui::Font& current) = 0;
+    /// Starts at `current`, which may be a system colour; the answer is 0x00BBGGRR, nothing if the user
+    /// cancelled.
+    virtual std::optional<std::int32_t> chooseColor(std::int32_t current) = 0;
 };
 
 /// The program's one icon in the system tray. On a desktop without a tray every call does nothing.
@@ -162,6 +179,12 @@ public:
     virtual Reply sendEcho(quint32 address, const QByteArray& payload, int timeoutMs) = 0;
 };
 
+/// What the folders of a user are called after on Windows.
+struct WindowsProfile {
+    QString userName{};      ///< as the system reports it, trailing blanks included
+    QString windowsFolder{}; ///< such as C:\Windows
+};
+
 class SystemFolders {
 public:
     virtual ~SystemFolders() = default;
@@ -170,6 +193,11 @@ public:
     virtual QString programFolder() const = 0;
     /// The system's command interpreter, as a path.
     virtual QString commandInterpreter() const = 0;
+    /// The folder in which programs keep this user's settings, as the system knows it, in the platform's own
+    /// form; empty if the system knows none. Where such a folder is made on first use, it is there on return.
+    virtual QString applicationData() const = 0;
+    /// Nothing on systems other than Windows.
+    virtual std::optional<WindowsProfile> windowsProfile() const = 0;
 };
 
 /// The screen and what belongs to it, in the twips of the windows.

@@ -45,7 +45,7 @@ void CentreStatusWindow(Shared& shared) {
 }
 
 void CloseStatusWindowIfWanted(Shared& shared) {
-    if (shared.config.number("CloseStatus") == 1)
+    if (shared.frmSettings->chkCloseStatus.value == 1)
         shared.frmStatus->hide();
 }
 

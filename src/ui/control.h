@@ -28,6 +28,7 @@ enum class Kind {
     ComboBox,
     ListView,
     PictureBox,
+    TabStrip,
     Timer,
     CommonDialog
 };
@@ -35,7 +36,7 @@ enum class Kind {
 /// A font that was set on a control. Sizes are in points.
 struct Font {
     QString name;
-    double size = 0;
+    double size = 0; ///< 0: the platform's
     bool bold = false;
     bool italic = false;
     bool operator==(const Font&) const = default;
@@ -96,7 +97,7 @@ public:
     /// Some kinds lack a property; walks over all controls pass those over.
     bool hasEnabled() const { return kind != Kind::Line && kind != Kind::CommonDialog; }
     bool hasFont() const { return kind != Kind::Line && kind != Kind::Timer && kind != Kind::CommonDialog; }
-    bool hasColors() const { return hasFont(); }
+    bool hasColors() const { return hasFont() && kind != Kind::TabStrip; }
 
     /// Whether a user can reach it: itself and every frame round it enabled and visible, the window shown.
     bool usable() const;

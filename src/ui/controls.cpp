@@ -88,6 +88,15 @@ PictureBox::PictureBox(Form& form, const QString& controlName, const Declared& d
     : Control(form, Kind::PictureBox, controlName, declared), scaleWidth(*this, declared.width),
       drawing(*this) {}
 
+TabStrip::TabStrip(Form& form, const QString& controlName, const Declared& declared)
+    : Control(form, Kind::TabStrip, controlName, declared), captions(declared.items),
+      selectedTab(*this, declared.listIndex) {
+    selectedTab.assigned = [this](bool changes) {
+        if (changes)
+            Click();
+    };
+}
+
 Timer::Timer(Form& form, const QString& controlName, const Declared& declared)
     : Control(form, Kind::Timer, controlName, declared), interval(*this) {}
 

@@ -100,6 +100,17 @@ public:
     Property<Drawing> drawing;
 };
 
+/// The tabs over the pages of a window. Which page goes with which tab is the handler's business.
+class TabStrip : public Control {
+public:
+    TabStrip(Form& form, const QString& name, const Declared& declared); ///< `items` are the tabs
+    const QStringList captions;
+    Property<int> selectedTab; ///< counted from 0; Click fires whenever it changes, by hand or by code
+    Event<> Click;
+
+    QString caption() const { return captions.value(selectedTab); } ///< of the selected tab
+};
+
 class Timer : public Control {
 public:
     Timer(Form& form, const QString& name, const Declared& declared = {});

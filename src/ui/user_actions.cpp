@@ -44,6 +44,13 @@ bool choose(ComboBox& list, int index) {
     return true;
 }
 
+bool selectTab(TabStrip& tabs, int index) {
+    if (!tabs.usable() || index < 0 || index >= tabs.captions.size())
+        return false;
+    tabs.form().dispatch([&] { tabs.selectedTab = index; });
+    return true;
+}
+
 bool type(TextBox& box, const QString& text) {
     if (!box.usable() || box.readOnly)
         return false;

@@ -14,6 +14,7 @@ bool click(CheckBox& box);
 bool click(TextBox& box);
 bool click(MenuEntry& entry); ///< a menu can be open over a hidden window
 bool choose(ComboBox& list, int index);
+bool selectTab(TabStrip& tabs, int index);
 /// The whole text as it stands after the user's edit. Read-only boxes ignore it.
 bool type(TextBox& box, const QString& text);
 /// Returns whether the key is still to be typed: false if a handler has swallowed it.

@@ -16,13 +16,6 @@ constexpr int kWideRefresh = 2175;   // over its place too
 const QString kNoGames = QStringLiteral("Browse, Backup, and Delete - 0 Games");
 const QString kNoDevice = QStringLiteral("(no active device)");
 
-QString consoleNotFound(const QString& address) {
-    return "A PS2 console could not be found at IP address: " + address +
-           "\r\n\r\nVerify the following:\r\n\r\n"
-           "1. The PS2 console is currently running tarnd_svr.elf and it is fully initialized.\r\n"
-           "2. The IP address you entered matches the IP address configured in mc0:SYS-CONF/IPCONFIG.DAT\r\n";
-}
-
 } // namespace
 
 DeviceSelection::DeviceSelection(Shared& shared, ToolChannel& channel, OutputInterpreter& interpreter)
@@ -185,10 +178,17 @@ void DeviceSelection::resetSpace() {
     shared_.frmMain.lblDiskSpace.caption = kNoDevice;
 }
 
+QString ConsoleNotFound(const QString& address) {
+    return "A PS2 console could not be found at IP address: " + address +
+           "\r\n\r\nVerify the following:\r\n\r\n"
+           "1. The PS2 console is currently running tarnd_svr.elf and it is fully initialized.\r\n"
+           "2. The IP address you entered matches the IP address configured in mc0:SYS-CONF/IPCONFIG.DAT";
+}
+
 bool ConsoleAnswers(Shared& shared, const QString& address) {
     if (PingConsole(address, shared.ports.ping) != kNoAnswer)
         return true;
-    shared.message(consoleNotFound(address));
+    shared.message(ConsoleNotFound(address) + "\r\n");
     return false;
 }
 

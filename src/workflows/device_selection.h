@@ -35,6 +35,9 @@ private:
     OutputInterpreter& interpreter_;
 };
 
+/// What to check when no console answers at the address.
+QString ConsoleNotFound(const QString& address);
+
 /// Whether a console answers at the address; tells the user if none does.
 bool ConsoleAnswers(Shared& shared, const QString& address);
 

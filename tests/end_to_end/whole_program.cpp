@@ -21,7 +21,7 @@ QByteArray allKindsOfBytes(qsizetype count) {
 } // namespace
 
 void WholeProgram::play(const std::function<void(User&)>& scenario) const {
-    DesktopProgram program{QtSystemFolders(bench.folder())};
+    DesktopProgram program{QtSystemFolders(bench.folder(), bench.folder())};
     EXPECT_EQ(tour::runWithUser(program, scenario), "");
 }
 

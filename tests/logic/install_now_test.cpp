@@ -244,7 +244,7 @@ TEST_F(InstallNow, ThePageIsResetButFlagEightAndTheSizeBehindItStay) {
 }
 
 TEST_F(InstallNow, TheStatusWindowStaysIfTheSettingsSaySo) {
-    store("CloseStatus", "0");
+    program.shared().frmSettings->chkCloseStatus.value = 0;
     ui::click(frmMain.cmdInstall);
     EXPECT_TRUE(frmStatus->shown());
 }

@@ -179,7 +179,7 @@ TEST_F(QueueRunner, TheStatusWindowStaysOnTopIfTheStoreSaysExactlyThat) {
 }
 
 TEST_F(QueueRunner, TheStatusWindowStaysIfTheSettingsSaySo) {
-    store("CloseStatus", "0");
+    program.shared().frmSettings->chkCloseStatus.value = 0;
     addInstalls(1);
     runQueue();
     EXPECT_TRUE(frmStatus->shown());

@@ -1,5 +1,7 @@
 #include "support/program_test.h"
 
+#include <QDir>
+
 using namespace tarnwell;
 using namespace tarnwell::test;
 
@@ -75,8 +77,12 @@ TEST_F(StartUp, PutsTheTitleIntoTheTray) {
 }
 
 TEST_F(StartUp, WorksWhereNothingCanBeWritten) {
+    // A program that cannot keep its data folder either looks for the tool's file where it was started.
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(ports.folders.folder);
     ports.folders.folder += "/missing";
     start();
+    QDir::setCurrent(before);
     EXPECT_TRUE(frmMain.shown());
     EXPECT_EQ(frmMain.txtIP.text.get(), "192.168.0.10");
     ui::type(frmMain.txtIP, "10.0.0.1");

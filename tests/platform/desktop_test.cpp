@@ -46,6 +46,18 @@ TEST(SystemFolders, TheCommandInterpreterIsAProgram) {
     EXPECT_TRUE(QFileInfo(QtSystemFolders().commandInterpreter()).isExecutable());
 }
 
+#ifndef Q_OS_WIN
+TEST(SystemFolders, TheFolderForSettingsIsMadeOnFirstUse) {
+    const QTemporaryDir home;
+    const QByteArray before = qgetenv("XDG_CONFIG_HOME");
+    qputenv("XDG_CONFIG_HOME", (home.path() + "/new/config").toLocal8Bit());
+    const QString folder = QtSystemFolders().applicationData();
+    before.isNull() ? qunsetenv("XDG_CONFIG_HOME") : qputenv("XDG_CONFIG_HOME", before);
+    EXPECT_EQ(folder, home.path() + "/new/config");
+    EXPECT_TRUE(QFileInfo(folder).isDir());
+}
+#endif
+
 TEST(WindowManager, TheScreenIsMeasuredInTheTwipsOfTheWindows) {
     const QSize pixels = QGuiApplication::primaryScreen()->availableSize();
     double scale = 1.0 / 15;

@@ -5,9 +5,11 @@
 #include "support/gtest_qt.h"
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFontDialog>
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -107,7 +109,7 @@ TEST_F(DialogsTest, AStopMessageHasTheStopIcon) {
 TEST_F(DialogsTest, AQuestionIsAnsweredByYesOnly) {
     const auto answerBy = [this](const std::function<void(QMessageBox&)>& act) {
         whenOpen<QMessageBox>(act);
-        return dialogs_.question("Delete <b>all</b>?", "Tarnwell GUI");
+        return dialogs_.question("Delete <b>all</b>?", "Tarnwell GUI", MessageIcon::Exclamation);
     };
     EXPECT_TRUE(answerBy([](QMessageBox& box) {
         EXPECT_EQ(box.text(), "Delete <b>all</b>?");
@@ -144,7 +146,7 @@ TEST_F(DialogsTest, TheButtonsOfALongQuestionAreOnTheScreen) {
         expectInSight();
         box.reject();
     });
-    EXPECT_FALSE(dialogs_.question(text, "title"));
+    EXPECT_FALSE(dialogs_.question(text, "title", MessageIcon::Exclamation));
 }
 
 TEST_F(DialogsTest, AMessageBelongsToTheWindowThatTheUserIsAt) {
@@ -226,10 +228,13 @@ TEST_F(DialogsTest, TheEndOfTheProgramClosesAnOpenDialogAndItsHandlerGoesNoFurth
     using Open = std::function<void(QtDialogs&)>;
     for (const Open& open :
          {Open([](QtDialogs& dialogs) { dialogs.message("text", MessageIcon::Exclamation, "title"); }),
-          Open([](QtDialogs& dialogs) { dialogs.question("text", "title"); }),
+          Open([](QtDialogs& dialogs) { dialogs.question("text", "title", MessageIcon::Exclamation); }),
           Open([](QtDialogs& dialogs) { dialogs.input("prompt", "title", "text"); }),
           Open([](QtDialogs& dialogs) { dialogs.openFile({}); }),
-          Open([](QtDialogs& dialogs) { dialogs.saveFile({}); })}) {
+          Open([](QtDialogs& dialogs) { dialogs.saveFile({}); }),
+          Open([](QtDialogs& dialogs) { dialogs.chooseFolder({}); }),
+          Open([](QtDialogs& dialogs) { dialogs.chooseFont({}); }),
+          Open([](QtDialogs& dialogs) { dialogs.chooseColor(0); })}) {
         QtEventPump pump;
         QtDialogs dialogs(pump);
         bool thrown = false;
@@ -409,6 +414,65 @@ TEST_F(SaveFileTest, WithoutAFolderTheDialogStartsWhereItLastWas) {
         dialog.reject();
     });
     dialogs_.saveFile(nowhere);
+}
+
+TEST_F(DialogsTest, TheGravestQuestionWearsTheStopSignAndProposesNo) {
+    whenOpen<QMessageBox>([](QMessageBox& box) {
+        EXPECT_EQ(box.icon(), QMessageBox::Critical);
+        EXPECT_EQ(box.windowTitle(), "ARE YOU 100% SURE?");
+        EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::No));
+        QMetaObject::invokeMethod(box.defaultButton(), "click");
+    });
+    EXPECT_FALSE(dialogs_.question("text", "ARE YOU 100% SURE?", MessageIcon::Stop));
+}
+
+TEST_F(DialogsTest, AFolderIsChosenFromTheOneThatItStartsIn) {
+    const QTemporaryDir folder;
+    QDir(folder.path()).mkdir("images");
+    whenOpen<QFileDialog>([&](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), "Select PS2 Game ISO directory");
+        EXPECT_EQ(dialog.fileMode(), QFileDialog::Directory);
+        EXPECT_EQ(dialog.directory().canonicalPath(), QFileInfo(folder.path()).canonicalFilePath());
+        dialog.findChild<QLineEdit*>("fileNameEdit")->setText("images");
+        QMetaObject::invokeMethod(&dialog, "accept");
+    });
+    EXPECT_EQ(dialogs_.chooseFolder({"Select PS2 Game ISO directory", folder.path()}),
+              QDir::toNativeSeparators(folder.filePath("images")));
+    whenOpen<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
+    EXPECT_EQ(dialogs_.chooseFolder({}), std::nullopt);
+}
+
+TEST_F(DialogsTest, AFontIsChosenFromTheOneThatItStartsAt) {
+    whenOpen<QFontDialog>([](QFontDialog& dialog) {
+        EXPECT_EQ(dialog.currentFont().pointSize(), 8);
+        EXPECT_TRUE(dialog.currentFont().bold());
+        QFont font("DejaVu Serif", 11);
+        font.setItalic(true);
+        dialog.setCurrentFont(font);
+        dialog.accept();
+    });
+    EXPECT_EQ(dialogs_.chooseFont({"DejaVu Sans", 8.25, true, false}),
+              (ui::Font{"DejaVu Serif", 11, false, true}));
+    whenOpen<QFontDialog>([](QFontDialog& dialog) {
+        EXPECT_EQ(dialog.currentFont().family(), QApplication::font().family());
+        dialog.reject();
+    });
+    EXPECT_EQ(dialogs_.chooseFont({}), std::nullopt);
+}
+
+TEST_F(DialogsTest, AColourIsChosenFromTheOneThatItStartsAt) {
+    whenOpen<QColorDialog>([](QColorDialog& dialog) {
+        EXPECT_EQ(dialog.currentColor(), QColor(0x11, 0x22, 0x33));
+        dialog.setCurrentColor(QColor(0x44, 0x55, 0x66));
+        dialog.accept();
+    });
+    EXPECT_EQ(dialogs_.chooseColor(0x332211), 0x665544);
+    constexpr std::int32_t kButtonText = -2147483630;
+    whenOpen<QColorDialog>([](QColorDialog& dialog) {
+        EXPECT_EQ(dialog.currentColor(), QApplication::palette().color(QPalette::ButtonText));
+        dialog.reject();
+    });
+    EXPECT_EQ(dialogs_.chooseColor(kButtonText), std::nullopt);
 }
 
 } // namespace

@@ -11,10 +11,11 @@ namespace {
 constexpr int kSecondsADay = 24 * 60 * 60;
 constexpr int kPatience = 1'000'000;
 
-std::optional<QString> take(std::deque<std::optional<QString>>& answers) {
+template <class Answer>
+std::optional<Answer> take(std::deque<std::optional<Answer>>& answers) {
     if (answers.empty())
         return std::nullopt;
-    const std::optional<QString> answer = answers.front();
+    const std::optional<Answer> answer = answers.front();
     answers.pop_front();
     return answer;
 }
@@ -175,8 +176,9 @@ void FakeDialogs::message(const QString& text, MessageIcon icon, const QString& 
     waitForUser();
 }
 
-bool FakeDialogs::question(const QString& text, const QString&) {
+bool FakeDialogs::question(const QString& text, const QString& title, MessageIcon icon) {
     questions.append(text);
+    lastQuestion = {text, icon, title};
     waitForUser();
     return questionAnswer;
 }
@@ -197,6 +199,24 @@ std::optional<QString> FakeDialogs::saveFile(const SaveFileRequest& request) {
     saveFileRequests.push_back(request);
     waitForUser();
     return take(saveFileAnswers);
+}
+
+std::optional<QString> FakeDialogs::chooseFolder(const ChooseFolderRequest& request) {
+    chooseFolderRequests.push_back(request);
+    waitForUser();
+    return take(chooseFolderAnswers);
+}
+
+std::optional<ui::Font> FakeDialogs::chooseFont(const ui::Font& current) {
+    chooseFontRequests.push_back(current);
+    waitForUser();
+    return take(chooseFontAnswers);
+}
+
+std::optional<std::int32_t> FakeDialogs::chooseColor(std::int32_t current) {
+    chooseColorRequests.push_back(current);
+    waitForUser();
+    return take(chooseColorAnswers);
 }
 
 void FakeDialogs::waitForUser() const {

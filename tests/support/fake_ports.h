@@ -2,6 +2,7 @@
 
 #include "platform/ports.h"
 
+#include <QDir>
 #include <QTemporaryDir>
 
 #include <deque>
@@ -129,6 +130,7 @@ public:
     };
     std::vector<Message> messages;
     QStringList questions;
+    Message lastQuestion{};
     bool questionAnswer = true; ///< whether the user says Yes
     std::vector<Input> inputs;
     std::deque<std::optional<QString>> inputAnswers; ///< used up one by one; then the user cancels
@@ -136,15 +138,24 @@ public:
     std::deque<std::optional<QString>> openFileAnswers; ///< used up one by one; then the user cancels
     std::vector<SaveFileRequest> saveFileRequests;
     std::deque<std::optional<QString>> saveFileAnswers; ///< used up one by one; then the user cancels
-    std::function<void()> whileOpen;                    ///< what happens while a box is open
+    std::vector<ChooseFolderRequest> chooseFolderRequests;
+    std::deque<std::optional<QString>> chooseFolderAnswers;     ///< used up one by one; then the user cancels
+    std::vector<ui::Font> chooseFontRequests;                   ///< the fonts that the dialog started at
+    std::deque<std::optional<ui::Font>> chooseFontAnswers;      ///< used up one by one; then the user cancels
+    std::vector<std::int32_t> chooseColorRequests;              ///< the colours that the dialog started at
+    std::deque<std::optional<std::int32_t>> chooseColorAnswers; ///< used up one by one; then the user cancels
+    std::function<void()> whileOpen;                            ///< what happens while a box is open
 
     QStringList messageTexts() const;
 
     void message(const QString& text, MessageIcon icon, const QString& title) override;
-    bool question(const QString& text, const QString& title) override;
+    bool question(const QString& text, const QString& title, MessageIcon icon) override;
     std::optional<QString> input(const QString& prompt, const QString& title, const QString& text) override;
     std::optional<QString> openFile(const OpenFileRequest& request) override;
     std::optional<QString> saveFile(const SaveFileRequest& request) override;
+    std::optional<QString> chooseFolder(const ChooseFolderRequest& request) override;
+    std::optional<ui::Font> chooseFont(const ui::Font& current) override;
+    std::optional<std::int32_t> chooseColor(std::int32_t current) override;
 
 private:
     void waitForUser() const;
@@ -213,7 +224,14 @@ class FakeSystemFolders : public SystemFolders {
 public:
     QString folder = temporary_.path(); ///< at first a temporary folder that goes with the test
 
+    QString data = folder + "/data"; ///< the user's folder for settings; at first there and empty
+    std::optional<WindowsProfile> profile;
+
+    FakeSystemFolders() { QDir().mkpath(data); }
+
     QString programFolder() const override { return folder; }
+    QString applicationData() const override { return data; }
+    std::optional<WindowsProfile> windowsProfile() const override { return profile; }
     QString commandInterpreter() const override { return QStringLiteral("C:\\WINDOWS\\system32\\cmd.exe"); }
 };
 

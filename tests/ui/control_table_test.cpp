@@ -1,5 +1,6 @@
 #include "support/gtest_qt.h"
 #include "ui/frm_main.h"
+#include "ui/frm_settings.h"
 #include "ui/frm_status.h"
 
 #include <gtest/gtest.h>
@@ -68,6 +69,30 @@ TEST(FrmMain, GivesEveryControlThatAUserWorksWithSomethingToBeCalled) {
         return needsName && control.accessibleName.isEmpty();
     });
     EXPECT_EQ(nameless, QStringList());
+}
+
+TEST(FrmSettings, StartsOnItsFirstPage) {
+    const FrmSettings frmSettings;
+    EXPECT_EQ(frmSettings.caption.get(), " Settings & Tools");
+    EXPECT_EQ(frmSettings.width, 5400);
+    EXPECT_EQ(frmSettings.height, 4410);
+    EXPECT_EQ(frmSettings.TabStrip.captions, QStringList({"Tarnwell", "GUI", "Tools"}));
+    EXPECT_EQ(frmSettings.TabStrip.caption(), "Tarnwell");
+    EXPECT_EQ(namesWhere(frmSettings, [](const Control& control) { return !control.visible; }).join(' '),
+              "fmGUI fmTools txtDefaultPath");
+    EXPECT_EQ(namesWhere(frmSettings, [](const Control& control) { return !control.enabled; }).join(' '),
+              "cmdForecolor cmdBackcolor cmdFormat cmdBackupTOC cmdRestoreTOC");
+    EXPECT_EQ(namesWhere(frmSettings,
+                         [](const Control& control) {
+                             return control.kind == Kind::CheckBox &&
+                                    static_cast<const CheckBox&>(control).value == 1;
+                         })
+                  .join(' '),
+              "chkLimit28bit chkEnableASPI");
+    for (const Frame* page : {&frmSettings.fmTarnwell, &frmSettings.fmGUI, &frmSettings.fmTools}) {
+        EXPECT_EQ(page->left, 240);
+        EXPECT_EQ(page->top, 480);
+    }
 }
 
 TEST(FrmStatus, StartsWithNothingKnown) {

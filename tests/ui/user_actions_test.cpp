@@ -15,6 +15,7 @@ struct SampleForm : Form {
     TextBox txtFixed{*this, "txtFixed", {.text = "fixed", .readOnly = true}};
     ComboBox cmbSample{*this, "cmbSample", {.items = {"a", "b"}}};
     ListView lstSample{*this, "lstSample", {.editableLabels = true}};
+    TabStrip tabSample{*this, "tabSample", {.items = {"a", "b"}, .listIndex = 0}};
     Timer tmrSample{*this, "tmrSample"};
     PopupMenu mnuTop{*this, "mnuTop", "top"};
     MenuEntry mnuEntry{mnuTop, "mnuEntry", "Entry"};
@@ -113,4 +114,17 @@ TEST_F(UserActions, HandlersRunThroughTheDispatcherOfTheWindow) {
     close(form);
     EXPECT_EQ(dispatched, 5);
     EXPECT_FALSE(form.loaded());
+}
+
+TEST_F(UserActions, SelectingATabFiresClickWhenItIsAnother) {
+    form.tabSample.Click = count;
+    EXPECT_TRUE(selectTab(form.tabSample, 0));
+    EXPECT_EQ(calls, 0);
+    EXPECT_TRUE(selectTab(form.tabSample, 1));
+    form.tabSample.selectedTab = 0;
+    EXPECT_EQ(calls, 2);
+    EXPECT_FALSE(selectTab(form.tabSample, 2));
+    form.tabSample.enabled = false;
+    EXPECT_FALSE(selectTab(form.tabSample, 1));
+    EXPECT_EQ(form.tabSample.caption(), "a");
 }

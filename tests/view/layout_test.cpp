@@ -93,6 +93,18 @@ TEST_P(Fonts, EverythingFitsInTheStatusWindow) {
     expectGood(*view.window());
 }
 
+TEST_P(Fonts, EverythingFitsOnEveryPageOfTheSettingsWindow) {
+    ui::FrmSettings form;
+    const SettingsWindowView view(form);
+    for (const auto tab :
+         {ui::FrmSettings::kTarnwellTab, ui::FrmSettings::kGuiTab, ui::FrmSettings::kToolsTab}) {
+        samples::settings(form, tab);
+        expectGood(*view.window());
+    }
+    samples::ownLook(form);
+    expectGood(*view.window());
+}
+
 TEST_P(Fonts, TheSpeedOfAFastDiskIsNotCut) {
     ui::FrmStatus form;
     const StatusWindowView view(form);

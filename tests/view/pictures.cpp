@@ -3,6 +3,7 @@
 
 #include "ui/qt/application_icon.h"
 #include "ui/qt/main_window_view.h"
+#include "ui/qt/settings_window_view.h"
 #include "ui/qt/status_window_view.h"
 #include "view/sample_states.h"
 
@@ -36,6 +37,7 @@ void mainWindow(const QDir& folder, const QString& look) {
     picture("local", view::samples::localDisk);
     picture("browse", view::samples::localDisk, games);
     picture("jobs", view::samples::jobs);
+    picture("own-look", view::samples::discRead, view::samples::ownLook);
     picture("activity", view::samples::localDisk, games, view::samples::activity);
 }
 
@@ -46,8 +48,23 @@ void statusWindow(const QDir& folder, const QString& look) {
     save(*view.window(), folder, look + "-status");
 }
 
+void settingsWindow(const QDir& folder, const QString& look) {
+    const auto picture = [&](const QString& name, ui::FrmSettings::Tab tab, auto... states) {
+        ui::FrmSettings form;
+        const view::SettingsWindowView view(form);
+        view::samples::settings(form, tab);
+        (states(form), ...);
+        save(*view.window(), folder, look + "-settings-" + name);
+    };
+    picture("tarnwell", ui::FrmSettings::kTarnwellTab);
+    picture("gui", ui::FrmSettings::kGuiTab);
+    picture("tools", ui::FrmSettings::kToolsTab);
+    picture("own-look", ui::FrmSettings::kGuiTab, view::samples::ownLook);
+}
+
 void allWindows(const QDir& folder, const QString& look) {
     mainWindow(folder, look);
+    settingsWindow(folder, look);
     statusWindow(folder, look);
 }
 

@@ -107,6 +107,38 @@ void jobRunning(ui::FrmStatus& form) {
     form.show();
 }
 
+void settings(ui::FrmSettings& form, ui::FrmSettings::Tab tab) {
+    form.txtApplicationData.text = "C:\\Users\\Alex\\AppData\\Roaming\\";
+    form.txtDiscDatabase.text = "C:\\Users\\Alex\\AppData\\Roaming\\tarnwell.list";
+    form.txtTargetkbps.text = "2300";
+    form.txtDefaultISO.text = "D:\\Games\\Images\\";
+    form.chkStayOnTop.value = 1;
+    form.chkCloseStatus.value = 1;
+    form.cmbHD.addItem("hdd1:  [465.8 GB] - Playstation2 Formatted");
+    form.cmbHD.addItem("192.168.0.10");
+    form.cmbHD.listIndex = 0;
+    for (ui::Button* button : {&form.cmdFormat, &form.cmdBackupTOC, &form.cmdRestoreTOC})
+        button->enabled = true;
+    form.TabStrip.selectedTab = tab;
+    form.fmTarnwell.visible = tab == ui::FrmSettings::kTarnwellTab;
+    form.fmGUI.visible = tab == ui::FrmSettings::kGuiTab;
+    form.fmTools.visible = tab == ui::FrmSettings::kToolsTab;
+    form.show();
+}
+
+void ownLook(ui::Form& form) {
+    constexpr std::int32_t kIvory = 0xDCF5FA, kPine = 0x2E4A1B;
+    form.backColor = kIvory;
+    for (ui::Control* control : form.controls()) {
+        if (control->hasFont() && control->name != "txtOutput")
+            control->font = ui::Font{"DejaVu Serif", 11, false, true};
+        if (control->hasColors() && control->name != "picDiskSpace") {
+            control->foreColor = kPine;
+            control->backColor = kIvory;
+        }
+    }
+}
+
 QPalette darkPalette() {
     const QColor ground(45, 45, 48), field(30, 30, 32), ink(235, 235, 235), off(125, 125, 128);
     QPalette dark(ground);

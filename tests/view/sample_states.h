@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/frm_main.h"
+#include "ui/frm_settings.h"
 #include "ui/frm_status.h"
 
 #include <QFont>
@@ -16,6 +17,10 @@ void discRead(ui::FrmMain& form);
 void jobs(ui::FrmMain& form);
 void activity(ui::FrmMain& form);
 void jobRunning(ui::FrmStatus& form);
+/// The window of settings, open at one of its pages.
+void settings(ui::FrmSettings& form, ui::FrmSettings::Tab tab);
+/// A font and a pair of colours as a user might choose them.
+void ownLook(ui::Form& form);
 
 QPalette darkPalette();
 

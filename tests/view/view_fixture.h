@@ -2,6 +2,7 @@
 
 #include "support/gtest_qt.h"
 #include "ui/qt/main_window_view.h"
+#include "ui/qt/settings_window_view.h"
 #include "ui/qt/status_window_view.h"
 #include "view/sample_states.h"
 

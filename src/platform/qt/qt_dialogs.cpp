@@ -4,8 +4,11 @@
 #include "platform/qt/message_text.h"
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
+#include <QFontDialog>
+#include <QFontInfo>
 #include <QFontMetrics>
 #include <QInputDialog>
 
@@ -22,14 +25,34 @@ QMessageBox::Icon toolkitIcon(MessageIcon icon) {
     return icon == MessageIcon::Stop ? QMessageBox::Critical : QMessageBox::Warning;
 }
 
+QFont toolkitFont(const ui::Font& font) {
+    QFont result = QApplication::font();
+    if (!font.name.isEmpty())
+        result.setFamily(font.name);
+    if (font.size > 0)
+        result.setPointSizeF(font.size);
+    result.setBold(font.bold);
+    result.setItalic(font.italic);
+    return result;
+}
+
+QColor toolkitColor(std::int32_t color) {
+    constexpr std::uint32_t kSystemColor = 0x80000000, kButtonText = kSystemColor | 18;
+    const auto bits = static_cast<std::uint32_t>(color);
+    if (bits & kSystemColor)
+        return QApplication::palette().color(bits == kButtonText ? QPalette::ButtonText : QPalette::Button);
+    return QColor(static_cast<int>(bits & 0xff), static_cast<int>(bits >> 8 & 0xff),
+                  static_cast<int>(bits >> 16 & 0xff));
+}
+
 } // namespace
 
 void QtDialogs::message(const QString& text, MessageIcon icon, const QString& title) {
     show(text, toolkitIcon(icon), title, QMessageBox::Ok);
 }
 
-bool QtDialogs::question(const QString& text, const QString& title) {
-    return show(text, QMessageBox::Warning, title, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+bool QtDialogs::question(const QString& text, const QString& title, MessageIcon icon) {
+    return show(text, toolkitIcon(icon), title, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 
 QMessageBox::StandardButton QtDialogs::show(const QString& text, QMessageBox::Icon icon, const QString& title,
@@ -69,6 +92,31 @@ std::optional<QString> QtDialogs::saveFile(const SaveFileRequest& request) {
     dialog.setDefaultSuffix(request.extension.mid(request.extension.lastIndexOf(u'.') + 1));
     dialog.selectFile(request.fileName);
     return chooseFile(dialog, request.filter);
+}
+
+std::optional<QString> QtDialogs::chooseFolder(const ChooseFolderRequest& request) {
+    QFileDialog dialog(windowOfTheUser(), request.title, request.folder);
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    return chooseFile(dialog, {});
+}
+
+std::optional<ui::Font> QtDialogs::chooseFont(const ui::Font& current) {
+    QFontDialog dialog(toolkitFont(current), windowOfTheUser());
+    if (waitFor(dialog) != QDialog::Accepted)
+        return std::nullopt;
+    const QFont font = dialog.selectedFont();
+    // A font that is measured in pixels has no points of its own.
+    const double size = font.pointSizeF() > 0 ? font.pointSizeF() : QFontInfo(font).pointSizeF();
+    return ui::Font{font.family(), size, font.bold(), font.italic()};
+}
+
+std::optional<std::int32_t> QtDialogs::chooseColor(std::int32_t current) {
+    QColorDialog dialog(toolkitColor(current), windowOfTheUser());
+    if (waitFor(dialog) != QDialog::Accepted)
+        return std::nullopt;
+    const QColor color = dialog.selectedColor();
+    return color.blue() << 16 | color.green() << 8 | color.red();
 }
 
 std::optional<QString> QtDialogs::chooseFile(QFileDialog& dialog, const QString& filter) const {

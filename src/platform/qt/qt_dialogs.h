@@ -14,10 +14,13 @@ public:
     explicit QtDialogs(const QtEventPump& pump) : pump_(pump) {}
 
     void message(const QString& text, MessageIcon icon, const QString& title) override;
-    bool question(const QString& text, const QString& title) override;
+    bool question(const QString& text, const QString& title, MessageIcon icon) override;
     std::optional<QString> input(const QString& prompt, const QString& title, const QString& text) override;
     std::optional<QString> openFile(const OpenFileRequest& request) override;
     std::optional<QString> saveFile(const SaveFileRequest& request) override;
+    std::optional<QString> chooseFolder(const ChooseFolderRequest& request) override;
+    std::optional<ui::Font> chooseFont(const ui::Font& current) override;
+    std::optional<std::int32_t> chooseColor(std::int32_t current) override;
 
 private:
     int waitFor(QDialog& dialog) const;

@@ -70,7 +70,8 @@ QFont toFont(const std::optional<ui::Font>& font) {
     if (!font)
         return {};
     QFont result(font->name);
-    result.setPointSizeF(font->size);
+    if (font->size > 0)
+        result.setPointSizeF(font->size);
     result.setBold(font->bold);
     result.setItalic(font->italic);
     return result;

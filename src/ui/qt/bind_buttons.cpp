@@ -20,7 +20,12 @@ public:
         setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     }
 
-    QSize sizeHint() const override { return QPushButton::sizeHint().expandedTo(minimumSizeHint()); }
+    QSize sizeHint() const override {
+        // Dots open a dialog for the field beside them, which needs the room.
+        if (text() == QLatin1String("..."))
+            return minimumSizeHint();
+        return QPushButton::sizeHint().expandedTo(minimumSizeHint());
+    }
 
     QSize minimumSizeHint() const override {
         constexpr int kRoomBesideText = 8;

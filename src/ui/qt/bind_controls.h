@@ -20,6 +20,7 @@ QWidget* bindTextBox(Binding& binding, ui::TextBox& box, QWidget* parent);
 QWidget* bindComboBox(Binding& binding, ui::ComboBox& list, QWidget* parent);
 QWidget* bindListView(Binding& binding, ui::ListView& list, QWidget* parent);
 QWidget* bindPictureBox(Binding& binding, ui::PictureBox& picture, QWidget* parent);
+QWidget* bindTabStrip(Binding& binding, ui::TabStrip& tabs, QWidget* parent);
 void bindTimer(Binding& binding, ui::Timer& timer, QWidget* parent);
 
 } // namespace tarnwell::view

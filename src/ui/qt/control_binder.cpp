@@ -43,6 +43,8 @@ QWidget* ControlBinder::make(ui::Control& control, QWidget* parent) {
         return bindListView(binding_, static_cast<ui::ListView&>(control), parent);
     case ui::Kind::PictureBox:
         return bindPictureBox(binding_, static_cast<ui::PictureBox&>(control), parent);
+    case ui::Kind::TabStrip:
+        return bindTabStrip(binding_, static_cast<ui::TabStrip&>(control), parent);
     case ui::Kind::Timer:
         bindTimer(binding_, static_cast<ui::Timer&>(control), parent);
         return nullptr;

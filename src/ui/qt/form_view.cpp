@@ -21,6 +21,9 @@ constexpr int kTitleBarAndBorders = 375;
 /// ever.
 constexpr double kScaleSteps = 32;
 
+/// Beyond this no screen could show the window; fonts that are larger still are clipped.
+constexpr double kLargestScale = 8;
+
 } // namespace
 
 FormView::FormView(ui::Form& form) : form_(form), declaredWidth_(form.width), binder_(form, *this) {
@@ -59,7 +62,7 @@ void FormView::followForm() {
 
 TwipScale FormView::neededScale() const {
     constexpr double kNormal = 1.0 / ui::kTwipsPerPixel;
-    const double times = std::max(1.0, layout_->neededPixelsPerTwip() / kNormal);
+    const double times = std::clamp(layout_->neededPixelsPerTwip() / kNormal, 1.0, kLargestScale);
     return TwipScale(kNormal * std::ceil(times * kScaleSteps) / kScaleSteps);
 }
 
@@ -115,8 +118,13 @@ void FormView::showTopmost() {
 
 void FormView::showColor() {
     QPalette colors;
-    if (const auto& back = form_.backColor.get())
-        colors.setColor(QPalette::Window, toColor(*back));
+    if (const auto& back = form_.backColor.get()) {
+        const QColor ground = toColor(*back);
+        colors.setColor(QPalette::Window, ground);
+        // What takes no colour of its own, such as a tab, must stay readable on it.
+        for (const auto group : {QPalette::Active, QPalette::Inactive})
+            colors.setColor(group, QPalette::WindowText, contrasting(ground));
+    }
     setPalette(colors);
 }
 

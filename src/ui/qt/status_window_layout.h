@@ -2,6 +2,7 @@
 
 #include "ui/frm_status.h"
 #include "ui/qt/control_binder.h"
+#include "ui/qt/paced_painting.h"
 #include "ui/qt/window_layout.h"
 
 namespace tarnwell::view {
@@ -24,6 +25,7 @@ private:
     ui::FrmStatus& form_;
     ControlBinder& controls_;
     QWidget& window_;
+    PacedPainting pacedPainting_{window_}; ///< every line of the tool changes something here
 };
 
 } // namespace tarnwell::view

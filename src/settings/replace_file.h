@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <functional>
+
+namespace tarnwell {
+
+/// Puts `bytes` in the place of a file, as a whole: whatever goes wrong on the way, the old file stands. A
+/// failure is a Fault. `beforeStep` is called before each single step on the disk and may throw.
+void ReplaceFile(const QString& path, const QByteArray& bytes, const std::function<void()>& beforeStep = {});
+
+} // namespace tarnwell

@@ -1,0 +1,188 @@
+#include "support/settings_test.h"
+
+using namespace tarnwell;
+using namespace tarnwell::test;
+
+namespace {
+
+const QString kLocate = QStringLiteral(
+    "Please locate your \"Application Data\" folder. If you feel as if you already selected the correct "
+    "directory then try running a command with tarnwell so that the config file gets written.");
+const QString kNotFound = QStringLiteral(
+    "The tarnwell configuration file was not found in the selected directory. If you feel that you selected "
+    "the correct directory and you still get this error message, try running tarnwell.exe from the command "
+    "line so the config file will get written.");
+
+struct DataFolderTest : SettingsTest {
+    void choose(const QString& folder) {
+        ports.dialogs.chooseFolderAnswers.push_back(folder);
+        ui::click(frmSettings->cmdApplicationData);
+    }
+    QString enabledToolSettings() {
+        QString bits;
+        for (const ui::Control* control : std::initializer_list<const ui::Control*>{
+                 &frmSettings->chkAutoThrottle, &frmSettings->chkEnableASPI, &frmSettings->chkLimit28bit,
+                 &frmSettings->chkUseCompression, &frmSettings->chkToxicOS, &frmSettings->txtTargetkbps,
+                 &frmSettings->txtDiscDatabase})
+            bits += control->enabled ? '1' : '0';
+        return bits;
+    }
+    void expectFolder(const QString& folder) {
+        EXPECT_EQ(stored("ApplicationData"), folder);
+        EXPECT_EQ(frmSettings->txtApplicationData.text.get(), folder);
+    }
+};
+
+/// A PC whose system names no folder. On the systems that tests run on, its paths are names with backslashes
+/// in them.
+struct WindowsProfileTest : DataFolderTest {
+    const QString before = QDir::currentPath();
+
+    WindowsProfileTest() {
+        QDir::setCurrent(ports.folders.folder);
+        ports.folders.data.clear();
+        ports.folders.profile = WindowsProfile{.userName = "ann ", .windowsFolder = "C:\\WINDOWS"};
+    }
+    ~WindowsProfileTest() override { QDir::setCurrent(before); }
+
+#ifdef Q_OS_WIN
+    void SetUp() override {
+        GTEST_SKIP() << "these folders are the system's own here";
+    }
+#endif
+
+    static inline const QString kFirst = "C:\\Documents and Settings\\ann\\Application Data\\";
+    static inline const QString kSecond = "C:\\Users\\ann\\AppData\\Roaming\\";
+    static inline const QString kTitle = "Locate C:\\Documents and Settings\\ann \\Application Data";
+};
+
+} // namespace
+
+TEST_F(DataFolderTest, IsTheSystemsOwnAtTheFirstStart) {
+    start();
+    expectFolder(ports.folders.data + QDir::separator());
+    EXPECT_TRUE(QFile::exists(conf()));
+    EXPECT_TRUE(ports.dialogs.messages.empty());
+}
+
+TEST_F(DataFolderTest, AStoredFolderWithTheFileStands) {
+    const QString folder = makeFolder("mine", true);
+    writeFile("config.cfg", "[tarnwell]\r\nApplicationData=" + folder.toLocal8Bit() + "\r\n");
+    start();
+    expectFolder(folder);
+    EXPECT_FALSE(QFile::exists(conf()));
+}
+
+TEST_F(DataFolderTest, AStoredFolderWithoutTheFileIsReplacedSilently) {
+    const QString folder = makeFolder("mine");
+    writeFile("config.cfg", "[tarnwell]\r\nApplicationData=" + folder.toLocal8Bit() + "\r\n");
+    start();
+    expectFolder(ports.folders.data + QDir::separator());
+    EXPECT_TRUE(ports.dialogs.messages.empty());
+}
+
+TEST_F(DataFolderTest, AStoredFolderStandsEvenIfTheSystemNamesNone) {
+    const QString folder = makeFolder("mine", true);
+    writeFile("config.cfg", "[tarnwell]\r\nApplicationData=" + folder.toLocal8Bit() + "\r\n");
+    ports.folders.data.clear();
+    start();
+    expectFolder(folder);
+    EXPECT_TRUE(ports.dialogs.messages.empty());
+}
+
+TEST_F(DataFolderTest, TheUserIsAskedOnTheGuiPageIfThereIsNone) {
+    const QString folder = makeFolder("mine", true);
+    writeTo(folder + "tarnwell.conf", "target_kbps = 77\n");
+    ports.folders.data.clear();
+    ports.dialogs.chooseFolderAnswers.push_back(folder.chopped(1));
+    start();
+    EXPECT_EQ(ports.dialogs.messageTexts(), QStringList(kLocate));
+    EXPECT_TRUE(frmSettings->shown());
+    EXPECT_EQ(frmSettings->TabStrip.caption(), "GUI");
+    EXPECT_TRUE(frmSettings->fmGUI.visible);
+    EXPECT_FALSE(frmSettings->fmTarnwell.visible);
+    expectFolder(folder);
+    EXPECT_EQ(frmSettings->txtTargetkbps.text.get(), "77");
+    EXPECT_TRUE(frmMain.shown());
+}
+
+TEST_F(DataFolderTest, ACancelledPickerChangesNothing) {
+    start();
+    open();
+    const QString folder = stored("ApplicationData");
+    ui::click(frmSettings->cmdApplicationData);
+    expectFolder(folder);
+    EXPECT_EQ(enabledToolSettings(), "1111111");
+    EXPECT_TRUE(ports.dialogs.messages.empty());
+}
+
+TEST_F(DataFolderTest, AFolderWithoutTheFileTurnsTheToolsSettingsOffUntilABetterChoice) {
+    startAndOpen();
+    const QString folder = stored("ApplicationData");
+    choose(makeFolder("empty"));
+    EXPECT_EQ(lastMessage(), kNotFound);
+    EXPECT_EQ(enabledToolSettings(), "0000000");
+    expectFolder(folder);
+    ui::click(frmSettings->cmdExitNoSave);
+    open();
+    EXPECT_EQ(enabledToolSettings(), "0000000");
+    choose(makeFolder("full", true));
+    EXPECT_EQ(enabledToolSettings(), "1111111");
+    expectFolder(path("full") + QDir::separator());
+}
+
+TEST_F(DataFolderTest, ThePickerStartsAtTheSystemsFolderWhereThereAreNoProfileForms) {
+    startAndOpen();
+    choose(makeFolder("full", true));
+    ASSERT_EQ(ports.dialogs.chooseFolderRequests.size(), 1u);
+    EXPECT_EQ(ports.dialogs.chooseFolderRequests[0].folder, ports.folders.data);
+    EXPECT_EQ(ports.dialogs.chooseFolderRequests[0].title, "Locate " + ports.folders.data);
+}
+
+TEST_F(WindowsProfileTest, TheFirstFormComesBeforeTheSecond) {
+    QDir().mkdir(kFirst);
+    QDir().mkdir(kSecond);
+    start();
+    expectFolder(kFirst);
+    EXPECT_TRUE(ports.dialogs.messages.empty());
+}
+
+TEST_F(WindowsProfileTest, TheSecondFormServesIfTheFirstIsMissing) {
+    QDir().mkdir(kSecond);
+    start();
+    expectFolder(kSecond);
+}
+
+TEST_F(WindowsProfileTest, TheSystemsOwnFolderComesBeforeBoth) {
+    QDir().mkdir(kFirst);
+    ports.folders.data = path("data");
+    start();
+    expectFolder(path("data") + QDir::separator());
+}
+
+TEST_F(WindowsProfileTest, ThePickerStartsAtTheRootAndNamesTheFirstFormAlone) {
+    QDir().mkdir(kSecond);
+    startAndOpen();
+    ui::click(frmSettings->cmdApplicationData);
+    ASSERT_EQ(ports.dialogs.chooseFolderRequests.size(), 1u);
+    EXPECT_EQ(ports.dialogs.chooseFolderRequests[0].folder, "C:\\") << "a root keeps its backslash";
+    EXPECT_EQ(ports.dialogs.chooseFolderRequests[0].title, kTitle) << "the name is not trimmed here";
+    EXPECT_EQ(frmSettings->txtDefaultPath.text.get(), "C:\\");
+}
+
+TEST_F(WindowsProfileTest, ThePickerStartsAtTheProfileIfItHoldsAFile) {
+    const QString profile = "C:\\documents and settings\\ann \\";
+    writeTo(profile + "ntuser.dat", "");
+    QDir().mkdir(kSecond);
+    startAndOpen();
+    ui::click(frmSettings->cmdApplicationData);
+    EXPECT_EQ(frmSettings->txtDefaultPath.text.get(), profile);
+}
+
+TEST_F(WindowsProfileTest, UseDefaultsAsksTheUserIfOnlyTheSecondFormIsThere) {
+    QDir().mkdir(kSecond);
+    startAndOpen();
+    ui::click(frmSettings->cmdDefaults);
+    EXPECT_EQ(ports.dialogs.chooseFolderRequests.size(), 1u);
+    expectFolder(kSecond);
+}
