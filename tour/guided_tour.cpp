@@ -42,6 +42,8 @@ void GuidedTour::play() {
     queueJobs();
     cancelQueue();
     completeQueue();
+    lookAtSettings();
+    changeLook();
 }
 
 void GuidedTour::readConsole() {
@@ -188,6 +190,34 @@ void GuidedTour::queueMakeIso() {
     user_.click("cmdMakeISO");
     user_.pickFile(bench_.path("Pocket Chess.iso"));
     user_.waitUntilIdle();
+}
+
+void GuidedTour::lookAtSettings() {
+    user_.click("cmdControls");
+    user_.click("cmdSettings");
+    user_.waitFor("the settings window", [this] { return user_.windowUp("frmSettings"); });
+    tell("settings-tarnwell", "Settings & Tools: the settings of the tool.");
+    user_.selectTab("TabStrip", ui::FrmSettings::kToolsTab);
+    user_.click("cmdRefresh");
+    user_.waitUntilIdle();
+    tell("settings-tools", "The tools for disks; all disks are listed, formatted or not.");
+    user_.selectTab("TabStrip", ui::FrmSettings::kGuiTab);
+    tell("settings-gui", "The settings of this program.");
+}
+
+void GuidedTour::changeLook() {
+    user_.click("cmdFont");
+    user_.pickFont(QFont("DejaVu Serif", 10));
+    user_.click("chkColors");
+    user_.click("cmdForecolor");
+    user_.pickColor(QColor(0x1d, 0x3b, 0x2a));
+    user_.click("cmdBackcolor");
+    user_.pickColor(QColor(0xf6, 0xee, 0xd8));
+    user_.waitUntilIdle();
+    tell("own-look", "Another font, another pair of colours: all windows have them at once.");
+    user_.click("cmdExitNoSave");
+    user_.waitFor("the settings window to close", [this] { return !user_.windowUp("frmSettings"); });
+    tell("main-own-look", "The main window has grown with its font.");
 }
 
 void GuidedTour::waitForHalfOfJob(int job) {

@@ -8,7 +8,7 @@
 namespace tarnwell::tour {
 
 /// Shows what the program can do: a console and a disk are looked at, a sample image is installed, a queue of
-/// jobs is worked off. Each step leaves a picture and a line of plain words; one that goes otherwise than
+/// jobs is worked off, the settings are looked at. Each step leaves a picture and a line of plain words; one that goes otherwise than
 /// expected ends the tour.
 class GuidedTour {
 public:
@@ -28,6 +28,8 @@ private:
     void queueJobs();
     void cancelQueue();
     void completeQueue();
+    void lookAtSettings();
+    void changeLook();
 
     void queueInstall();
     void queueMakeIso();

@@ -2,8 +2,10 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QColorDialog>
 #include <QComboBox>
 #include <QFileDialog>
+#include <QFontDialog>
 #include <QGroupBox>
 #include <QInputDialog>
 #include <QKeyEvent>
@@ -16,6 +18,7 @@
 #include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QTabBar>
 #include <QTreeView>
 
 #include <thread>
@@ -202,6 +205,33 @@ void User::pickFile(const QString& path) {
     look([&] { typeInto(*edit, path); });
     act([edit] { sendKey(*edit, Qt::Key_Return, {}, "\r"); });
     waitFor("the dialog for files to close", [] { return openDialog<QFileDialog>() == nullptr; });
+}
+
+void User::selectTab(const QString& strip, int tab) {
+    auto* const tabs = look([&] { return qobject_cast<QTabBar*>(&reachable(strip)); });
+    if (!tabs)
+        throw Stuck(strip + " has no tabs.");
+    act([tabs, tab] { sendClick(*tabs, tabs->tabRect(tab).center()); });
+}
+
+void User::pickColor(const QColor& color) {
+    waitFor("the dialog for colours", [] { return openDialog<QColorDialog>() != nullptr; });
+    act([color] {
+        auto* const dialog = openDialog<QColorDialog>();
+        dialog->setCurrentColor(color);
+        dialog->accept();
+    });
+    waitFor("the dialog for colours to close", [] { return openDialog<QColorDialog>() == nullptr; });
+}
+
+void User::pickFont(const QFont& font) {
+    waitFor("the dialog for fonts", [] { return openDialog<QFontDialog>() != nullptr; });
+    act([font] {
+        auto* const dialog = openDialog<QFontDialog>();
+        dialog->setCurrentFont(font);
+        dialog->accept();
+    });
+    waitFor("the dialog for fonts to close", [] { return openDialog<QFontDialog>() == nullptr; });
 }
 
 QString User::confirmMessage() {

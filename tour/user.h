@@ -36,9 +36,13 @@ public:
     void type(const QString& name, const QString& text);
     void pressKey(const QString& name, Qt::Key key);
     void choose(const QString& comboBox, int index);
+    void selectTab(const QString& strip, int tab);
     void waitForFileDialog();
     /// Types a path into the open dialog for files and presses Enter.
     void pickFile(const QString& path);
+    /// Picks in the open dialog and presses OK.
+    void pickColor(const QColor& color);
+    void pickFont(const QFont& font);
     /// Waits for a message box, presses its OK and returns its text.
     QString confirmMessage();
     /// The same with the Yes of a question.
