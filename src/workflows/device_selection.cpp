@@ -1,7 +1,8 @@
 #include "workflows/device_selection.h"
 
+#include "interpreter/free_space_stage.h"
+#include "interpreter/game_list_stage.h"
 #include "interpreter/tool_commands.h"
-#include "queue/percent_bar.h"
 #include "services/mod_ping.h"
 #include "workflows/query.h"
 
@@ -12,9 +13,6 @@ namespace {
 constexpr int kEnterKey = 13;
 constexpr int kNarrowRefresh = 1215; // beside the shutdown button
 constexpr int kWideRefresh = 2175;   // over its place too
-
-const QString kNoGames = QStringLiteral("Browse, Backup, and Delete - 0 Games");
-const QString kNoDevice = QStringLiteral("(no active device)");
 
 } // namespace
 
@@ -39,7 +37,7 @@ void DeviceSelection::chooseLan() {
     frmMain.cmdShutdownPS2.visible = true;
     frmMain.cmdAttach.caption = "Refresh PS2";
     frmMain.cmdAttach.width = kNarrowRefresh;
-    resetSpace();
+    ClearFreeSpace(shared_);
     frmMain.lstHD.clear();
     disableDeviceGroup();
 }
@@ -130,7 +128,7 @@ void DeviceSelection::changeAddress() {
     shared_.config.write("IP", shared_.frmMain.txtIP.text);
     disableDeviceGroup();
     shared_.frmMain.lstHD.clear();
-    resetSpace();
+    ClearFreeSpace(shared_);
 }
 
 void DeviceSelection::pressKeyInAddress(int& key) {
@@ -142,7 +140,7 @@ void DeviceSelection::pressKeyInAddress(int& key) {
 
 void DeviceSelection::queryDisks() {
     shared_.frmMain.cmbHD.clear();
-    shared_.frmMain.fmBrowse.caption = kNoGames;
+    ShowGameCount(shared_, 0);
     RunQuery(shared_.blnQueryHD, shared_, channel_, interpreter_);
 }
 
@@ -162,7 +160,7 @@ bool DeviceSelection::addressEntered() {
 void DeviceSelection::resetDevice() {
     disableDeviceGroup();
     shared_.frmMain.lstHD.clear();
-    resetSpace();
+    ClearFreeSpace(shared_);
 }
 
 void DeviceSelection::disableDeviceGroup() {
@@ -171,11 +169,6 @@ void DeviceSelection::disableDeviceGroup() {
          {&frmMain.cmdAddGame, &frmMain.cmdInstall, &frmMain.cmdBackupPC, &frmMain.cmdBackupPS2,
           &frmMain.cmdBackupHDD, &frmMain.cmdDelete, &frmMain.cmdSaveList})
         button->enabled = false;
-}
-
-void DeviceSelection::resetSpace() {
-    PercentBar(shared_.frmMain.picDiskSpace, 100, 0, shared_.ports.pump);
-    shared_.frmMain.lblDiskSpace.caption = kNoDevice;
 }
 
 QString ConsoleNotFound(const QString& address) {

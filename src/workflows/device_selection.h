@@ -28,7 +28,6 @@ private:
 
     void resetDevice();
     void disableDeviceGroup();
-    void resetSpace();
 
     Shared& shared_;
     ToolChannel& channel_;
