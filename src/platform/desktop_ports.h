@@ -3,9 +3,11 @@
 #include "platform/qt/qt_clock.h"
 #include "platform/qt/qt_dialogs.h"
 #include "platform/qt/qt_event_pump.h"
+#include "platform/qt/qt_http_listener.h"
 #include "platform/qt/qt_process_launcher.h"
 #include "platform/qt/qt_system_folders.h"
 #include "platform/qt/qt_tray.h"
+#include "platform/qt/qt_url_opener.h"
 #include "platform/qt/qt_window_manager.h"
 
 namespace tarnwell {
@@ -23,12 +25,16 @@ struct DesktopPorts {
     QtProcessLauncher launcher;
     QtDialogs dialogs;
     QtTray tray;
+    QtHttpListener listener;
+    QtUrlOpener browser;
     QtSystemFolders folders;
     QtWindowManager windows;
     std::unique_ptr<Processes> processes;
     std::unique_ptr<Sound> sound;
     std::unique_ptr<Power> power;
     std::unique_ptr<Ping> ping;
+    std::unique_ptr<WakeLock> wakeLock;
+    std::unique_ptr<TaskbarProgress> taskbar;
 };
 
 } // namespace tarnwell

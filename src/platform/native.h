@@ -29,5 +29,7 @@ std::unique_ptr<Processes> makeProcesses();
 std::unique_ptr<Sound> makeSound();
 std::unique_ptr<Power> makePower();
 std::unique_ptr<Ping> makePing();
+std::unique_ptr<WakeLock> makeWakeLock();
+std::unique_ptr<TaskbarProgress> makeTaskbarProgress();
 
 } // namespace tarnwell::native

@@ -179,6 +179,52 @@ public:
     virtual Reply sendEcho(quint32 address, const QByteArray& payload, int timeoutMs) = 0;
 };
 
+/// A TCP server with one client at a time: whoever connects takes the place of the one before, whose
+/// connection stays open unheard until that side closes it.
+class HttpListener {
+public:
+    virtual ~HttpListener() = default;
+    /// Listens on a port of all addresses of this machine. False if the port cannot be had.
+    virtual bool listen(quint16 port) = 0;
+    /// Takes no more clients and hears no more of the present one, whose connection stays open. Does nothing
+    /// when it does not listen.
+    virtual void close() = 0;
+    /// Sends to the present client; silent if that one has gone. Never waits.
+    virtual void send(const QByteArray& bytes) = 0;
+    /// What the present client sent: at most kMostBytes at a time, each piece as it came. Attached by the
+    /// program before `listen`.
+    std::function<void(const QByteArray& bytes)> received;
+    static constexpr int kMostBytes = 1000;
+};
+
+/// Shows web pages.
+class UrlOpener {
+public:
+    virtual ~UrlOpener() = default;
+    /// Opens an address in the user's browser, without a wait; silent if there is none.
+    virtual void open(const QString& url) = 0;
+};
+
+/// Keeps the machine from falling asleep by itself; the user and the program can still send it to sleep.
+class WakeLock {
+public:
+    virtual ~WakeLock() = default;
+    /// `reason` is for a user who asks the system what keeps it awake. Does nothing while it is held already,
+    /// or where the system knows of no such thing. Ends with the program at the latest.
+    virtual void hold(const QString& reason) = 0;
+    virtual void release() = 0;
+};
+
+/// How far work has come, on the button that the program's shown window has in the task bar. Does nothing
+/// where buttons cannot show that.
+class TaskbarProgress {
+public:
+    virtual ~TaskbarProgress() = default;
+    /// `percent` from 0 to 100.
+    virtual void show(int percent) = 0;
+    virtual void clear() = 0;
+};
+
 /// What the folders of a user are called after on Windows.
 struct WindowsProfile {
     QString userName{};      ///< as the system reports it, trailing blanks included
@@ -221,6 +267,10 @@ struct Ports {
     Sound& sound;
     Power& power;
     Ping& ping;
+    HttpListener& listener;
+    UrlOpener& browser;
+    WakeLock& wakeLock;
+    TaskbarProgress& taskbar;
     SystemFolders& folders;
     WindowManager& windows;
 };

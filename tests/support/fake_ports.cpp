@@ -236,4 +236,20 @@ Ping::Reply FakePing::sendEcho(quint32 address, const QByteArray& payload, int t
     return known == replies.end() ? reply : known->second;
 }
 
+bool FakeHttpListener::listen(quint16 wanted) {
+    if (portIsFree)
+        port = wanted;
+    return portIsFree;
+}
+
+void FakeHttpListener::request(const QByteArray& bytes) const {
+    if (port && received)
+        received(bytes);
+}
+
+void FakeWakeLock::hold(const QString& reason) {
+    held = true;
+    reasons.append(reason);
+}
+
 } // namespace tarnwell::test

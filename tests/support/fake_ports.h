@@ -218,6 +218,44 @@ public:
     Reply sendEcho(quint32 address, const QByteArray& payload, int timeoutMs) override;
 };
 
+class FakeHttpListener : public HttpListener {
+public:
+    bool portIsFree = true;
+    std::optional<quint16> port; ///< while it listens
+    QByteArrayList sent;
+
+    bool listen(quint16 wanted) override;
+    void close() override { port.reset(); }
+    void send(const QByteArray& bytes) override { sent.append(bytes); }
+
+    /// A client sends this; heard while somebody listens.
+    void request(const QByteArray& bytes) const;
+};
+
+class FakeUrlOpener : public UrlOpener {
+public:
+    QStringList opened;
+
+    void open(const QString& url) override { opened.append(url); }
+};
+
+class FakeWakeLock : public WakeLock {
+public:
+    bool held = false;
+    QStringList reasons; ///< of all that were asked for
+
+    void hold(const QString& reason) override;
+    void release() override { held = false; }
+};
+
+class FakeTaskbarProgress : public TaskbarProgress {
+public:
+    std::optional<int> percent; ///< while it is shown
+
+    void show(int value) override { percent = value; }
+    void clear() override { percent.reset(); }
+};
+
 class FakeSystemFolders : public SystemFolders {
     const QTemporaryDir temporary_;
 
@@ -253,11 +291,16 @@ struct FakePorts {
     FakeSound sound;
     FakePower power;
     FakePing ping;
+    FakeHttpListener listener;
+    FakeUrlOpener browser;
+    FakeWakeLock wakeLock;
+    FakeTaskbarProgress taskbar;
     FakeSystemFolders folders;
     FakeWindowManager windows;
 
     Ports ports() {
-        return {pump, clock, launcher, processes, dialogs, tray, sound, power, ping, folders, windows};
+        return {pump, clock,    launcher, processes, dialogs, tray,    sound,  power,
+                ping, listener, browser,  wakeLock,  taskbar, folders, windows};
     }
 };
 

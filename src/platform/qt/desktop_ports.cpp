@@ -8,10 +8,11 @@ DesktopPorts::DesktopPorts(const QIcon& icon, std::function<double()> pixelsPerT
                            QtSystemFolders systemFolders)
     : dialogs(pump), tray(icon), folders(std::move(systemFolders)), windows(std::move(pixelsPerTwip)),
       processes(native::makeProcesses()), sound(native::makeSound()), power(native::makePower()),
-      ping(native::makePing()) {}
+      ping(native::makePing()), wakeLock(native::makeWakeLock()), taskbar(native::makeTaskbarProgress()) {}
 
 Ports DesktopPorts::ports() {
-    return {pump, clock, launcher, *processes, dialogs, tray, *sound, *power, *ping, folders, windows};
+    return {pump,  clock,    launcher, *processes, dialogs,  tray,    *sound, *power,
+            *ping, listener, browser,  *wakeLock,  *taskbar, folders, windows};
 }
 
 } // namespace tarnwell
