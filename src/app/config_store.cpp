@@ -127,8 +127,11 @@ QString ConfigRead(const QString& section, const QString& key, const QString& pa
 
 void ConfigWrite(const QString& section, const QString& key, const QString& value, const QString& path) {
     IniText ini = load(path);
+    const QByteArray before = ini.bytes();
     ini.setValue(section.toLocal8Bit(), key.toLocal8Bit(), value.toLocal8Bit());
-    save(ini, path);
+    // Replacing a file waits for the disk, and settings are mostly written as they stand.
+    if (ini.bytes() != before)
+        save(ini, path);
 }
 
 } // namespace tarnwell
