@@ -10,8 +10,10 @@
 namespace tarnwell::bench {
 namespace {
 
-constexpr Effort kFull{.starts = 21, .progressSeconds = 20, .commands = 200, .rounds = 15, .jobs = 100};
-constexpr Effort kQuick{.starts = 1, .progressSeconds = 1, .commands = 5, .rounds = 1, .jobs = 3};
+constexpr Effort kFull{
+    .starts = 21, .progressSeconds = 20, .commands = 200, .rounds = 15, .jobs = 100, .peerStarts = 9};
+constexpr Effort kQuick{
+    .starts = 1, .progressSeconds = 1, .commands = 5, .rounds = 1, .jobs = 3, .peerStarts = 0};
 
 int runChild(const QStringList& arguments) {
     constexpr struct {
@@ -39,7 +41,7 @@ int runAll(bool quick) {
     const FreshProcesses processes;
     Report report;
     report.printHeadings();
-    for (const auto measure : {measureFirstWindow, measureProgressLoad, measureCommandDelay,
+    for (const auto measure : {measureFirstWindow, measurePeers, measureProgressLoad, measureCommandDelay,
                                measureInterpreterSpeed, measureGameList, measureQueueOverhead})
         measure(processes, effort, report);
     return report.complete() ? 0 : 1;

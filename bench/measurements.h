@@ -13,9 +13,11 @@ struct Effort {
     int commands;
     int rounds;
     int jobs;
+    int peerStarts; ///< after a first one that does not count; 0: that one counts
 };
 
 void measureFirstWindow(const FreshProcesses& processes, const Effort& effort, Report& report);
+void measurePeers(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measureProgressLoad(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measureCommandDelay(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measureInterpreterSpeed(const FreshProcesses& processes, const Effort& effort, Report& report);
