@@ -1,7 +1,9 @@
 #include "end_to_end/whole_program.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QRandomGenerator>
+#include <QThread>
 
 namespace tarnwell::test {
 
@@ -87,6 +89,17 @@ void WholeProgram::write(const QString& file, const QByteArray& bytes) {
     QFile opened(file);
     ASSERT_TRUE(opened.open(QFile::WriteOnly)) << file.toStdString();
     opened.write(bytes);
+}
+
+bool comesTrue(const std::function<bool()>& condition) {
+    constexpr int kPatienceMs = 30'000, kPauseMs = 20;
+    const QDeadlineTimer deadline(kPatienceMs);
+    while (!condition()) {
+        if (deadline.hasExpired())
+            return false;
+        QThread::msleep(kPauseMs);
+    }
+    return true;
 }
 
 } // namespace tarnwell::test

@@ -13,6 +13,9 @@ namespace tarnwell::test {
 using tour::User;
 using tour::Workbench;
 
+/// Whether something outside this process comes true within half a minute.
+bool comesTrue(const std::function<bool()>& condition);
+
 /// The program as people run it: its windows, its ports, a tool that is a process of its own. A scenario
 /// plays the user.
 class WholeProgram : public testing::Test {
