@@ -19,9 +19,10 @@ int runChild(const QStringList& arguments) {
     constexpr struct {
         const char* name;
         void (*run)(int);
-    } kChildren[] = {{"first-window", firstWindow},   {"progress-load", progressLoad},
-                     {"command-delay", commandDelay}, {"interpreter-speed", interpreterSpeed},
-                     {"game-list", gameList},         {"queue-overhead", queueOverhead}};
+    } kChildren[] = {{"first-window", firstWindow},    {"progress-load", progressLoad},
+                     {"command-delay", commandDelay},  {"interpreter-speed", interpreterSpeed},
+                     {"game-list", gameList},          {"scale", scale},
+                     {"queue-overhead", queueOverhead}};
     for (const auto& child : kChildren) {
         if (arguments.value(0) == child.name) {
             child.run(arguments.value(1).toInt());
@@ -42,7 +43,7 @@ int runAll(bool quick) {
     Report report;
     report.printHeadings();
     for (const auto measure : {measureFirstWindow, measurePeers, measureProgressLoad, measureCommandDelay,
-                               measureInterpreterSpeed, measureGameList, measureQueueOverhead})
+                               measureInterpreterSpeed, measureGameList, measureScale, measureQueueOverhead})
         measure(processes, effort, report);
     return report.complete() ? 0 : 1;
 }

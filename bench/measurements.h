@@ -22,6 +22,7 @@ void measureProgressLoad(const FreshProcesses& processes, const Effort& effort, 
 void measureCommandDelay(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measureInterpreterSpeed(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measureGameList(const FreshProcesses& processes, const Effort& effort, Report& report);
+void measureScale(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measureQueueOverhead(const FreshProcesses& processes, const Effort& effort, Report& report);
 
 /// The children; `argument` is the part of the effort that concerns them.
@@ -30,6 +31,7 @@ void progressLoad(int seconds);
 void commandDelay(int commands);
 void interpreterSpeed(int rounds);
 void gameList(int rounds);
+void scale(int rounds);
 void queueOverhead(int jobs);
 
 } // namespace tarnwell::bench
