@@ -79,6 +79,13 @@ QString WholeProgram::logged(const QString& command) const {
     return lines.join('\n');
 }
 
+void WholeProgram::replaceTool(const QByteArray& command, const QByteArray& script) const {
+    QFile::rename(bench.tool(), bench.path("real-tool"));
+    write(bench.tool(), "#!/bin/sh\ncase $1 in\n" + command + ") " + script +
+                            " ;;\n*) exec \"$(dirname \"$0\")/real-tool\" \"$@\" ;;\nesac\n");
+    QFile::setPermissions(bench.tool(), QFile::ReadOwner | QFile::ExeOwner);
+}
+
 QByteArray WholeProgram::contents(const QString& file) {
     QFile opened(file);
     EXPECT_TRUE(opened.open(QFile::ReadOnly)) << file.toStdString();

@@ -36,6 +36,8 @@ protected:
     /// Copies a game from the disk to a file, with the tool alone.
     QByteArray extract(const QString& device, const QString& game) const;
     QString logged(const QString& command) const;
+    /// From here on a shell script answers one of the tool's commands.
+    void replaceTool(const QByteArray& command, const QByteArray& script) const;
 
     static QByteArray contents(const QString& file);
     static void write(const QString& file, const QByteArray& bytes);
