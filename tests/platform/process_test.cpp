@@ -137,6 +137,17 @@ TEST(ProcessLauncher, TheProgramsPathMayHoldBlanks) {
     EXPECT_EQ(readAll(*child), "[x]\n[y]\n");
 }
 
+TEST(ProcessLauncher, TheProgramsPathMayHoldAnyLetters) {
+    const QTemporaryDir folder;
+    const QString tools = folder.filePath(
+        QString::fromUtf8("Sp\xc3\xab\xc3\xaflz\xc3\xbcg \xe3\x82\xb2\xe3\x83\xbc\xe3\x83\xa0"));
+    ASSERT_TRUE(QDir().mkpath(tools));
+    ASSERT_TRUE(QFile::copy(builtProgram("child_helper"), tools + "/tool.exe"));
+    const auto child = QtProcessLauncher().start(native(tools + "/tool.exe") + " arguments x y");
+    ASSERT_TRUE(child);
+    EXPECT_EQ(readAll(*child), "[x]\n[y]\n");
+}
+
 TEST(ProcessLauncher, TheProgramGetsOurFolderAndEnvironment) {
     qputenv("TARNWELL_TEST_MARK", "inherited");
     const auto child = startChild("surroundings");
@@ -190,6 +201,33 @@ TEST(ProcessLauncher, AnInterruptReachesTheProgramAndItsFarewellIsRead) {
     ASSERT_TRUE(readUntil(*child, "ready\n"));
     child->interrupt();
     EXPECT_EQ(readAll(*child), "interrupted\n");
+}
+
+TEST(ProcessLauncher, AnInterruptReachesOneProgramOnly) {
+    const auto earlier = startChild("farewell"), child = startChild("farewell");
+    ASSERT_TRUE(earlier && child);
+    const Ending endings[]{Ending(*earlier), Ending(*child)};
+    ASSERT_TRUE(readUntil(*earlier, "ready\n") && readUntil(*child, "ready\n"));
+    child->interrupt();
+    const auto later = startChild("farewell");
+    ASSERT_TRUE(later);
+    const Ending ending(*later);
+    ASSERT_TRUE(readUntil(*later, "ready\n"));
+    EXPECT_EQ(readAll(*child), "interrupted\n");
+    QtEventPump().pumpFor(100);
+    EXPECT_TRUE(earlier->running());
+    EXPECT_TRUE(later->running());
+    later->interrupt();
+    EXPECT_EQ(readAll(*later), "interrupted\n") << "it has not learnt to ignore it";
+    EXPECT_TRUE(earlier->running());
+}
+
+TEST(ProcessLauncher, AnInterruptInTheFirstMomentIsNotLost) {
+    const auto child = startChild("hang");
+    ASSERT_TRUE(child);
+    const Ending ending(*child);
+    child->interrupt();
+    EXPECT_TRUE(pumpUntil([&] { return !child->running(); }));
 }
 
 TEST(ProcessLauncher, AProgramMayBeDeafToTheInterrupt) {
