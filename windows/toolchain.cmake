@@ -15,4 +15,7 @@ list(PREPEND CMAKE_PREFIX_PATH ${TARNWELL_QT}/lib/cmake)
 set(QT_HOST_PATH /usr CACHE PATH "Qt's tools that run while building")
 set(QT_HOST_PATH_CMAKE_DIR /usr/lib/${CMAKE_HOST_SYSTEM_PROCESSOR}-linux-gnu/cmake CACHE PATH "Their description")
 
-set(CMAKE_EXE_LINKER_FLAGS_INIT "-static -Wl,--no-insert-timestamp")
+# The same bytes from every build, wherever it lies and whenever it is made; and nothing beside the program's own file.
+cmake_path(GET CMAKE_CURRENT_LIST_DIR PARENT_PATH root)
+set(CMAKE_CXX_FLAGS_INIT "-ffile-prefix-map=${root}=.")
+set(CMAKE_EXE_LINKER_FLAGS_INIT "-static -s -Wl,--no-insert-timestamp")
