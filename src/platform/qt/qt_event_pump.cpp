@@ -14,16 +14,6 @@ namespace {
 /// A program that always has something pending (a timer of 0 ms) must not hold the caller of `pump`.
 constexpr int kLongestPumpMs = 20;
 
-/// Sleeps until an event comes, at the latest for the given time, and serves what has come. User input is
-/// never left out: it would only be kept and replayed to the wrong state, and Cancel would freeze.
-void sleepAndServe(int milliseconds) {
-    QTimer alarm;
-    // An event handler may wait as well and use up the alarm meant for this wait; so the alarm repeats.
-    alarm.setTimerType(Qt::PreciseTimer);
-    alarm.start(milliseconds);
-    QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
-}
-
 } // namespace
 
 QtEventPump::QtEventPump() {
@@ -32,10 +22,7 @@ QtEventPump::QtEventPump() {
 
 void QtEventPump::pump() {
     throwIfEnded();
-    const QDeadlineTimer limit(kLongestPumpMs);
-    auto* const queue = QAbstractEventDispatcher::instance();
-    while (queue->processEvents(QEventLoop::AllEvents) && !ended_ && !limit.hasExpired()) {
-    }
+    servePending();
     throwIfEnded();
 }
 
@@ -62,6 +49,26 @@ void QtEventPump::end() {
 
 int QtEventPump::run() {
     return ended_ ? 0 : QCoreApplication::exec();
+}
+
+void QtEventPump::servePending() const {
+    const QDeadlineTimer limit(kLongestPumpMs);
+    auto* const queue = QAbstractEventDispatcher::instance();
+    while (!ended_ && queue->processEvents(QEventLoop::AllEvents) && !limit.hasExpired()) {
+    }
+}
+
+void QtEventPump::sleepAndServe(int milliseconds) const {
+    {
+        QTimer alarm;
+        // An event handler may wait as well and use up the alarm meant for this wait; so the alarm repeats.
+        alarm.setTimerType(Qt::PreciseTimer);
+        alarm.start(milliseconds);
+        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+    }
+    // On Windows the sleep may have ended by the mere notice of an event. Who sleeps again gets no second
+    // one.
+    servePending();
 }
 
 void QtEventPump::throwIfEnded() const {

@@ -6,10 +6,12 @@
 #include <QGuiApplication>
 #include <QWindow>
 
+#include <shobjidl.h>
+
 namespace tarnwell {
 
-WindowsTaskbarProgress::WindowsTaskbarProgress() {
-    // A program that runs with more rights than the task bar would not be told.
+WindowsTaskbarProgress::WindowsTaskbarProgress(Draw draw) : draw_(std::move(draw)) {
+    // A program with more rights than the task bar would not be told.
     ChangeWindowMessageFilter(buttonMade_, MSGFLT_ADD);
     QCoreApplication::instance()->installNativeEventFilter(this);
 }
@@ -19,52 +21,38 @@ WindowsTaskbarProgress::~WindowsTaskbarProgress() {
         application->removeNativeEventFilter(this);
 }
 
-void WindowsTaskbarProgress::show(int percent) {
+void WindowsTaskbarProgress::change(std::optional<int> percent) {
+    if (percent_ == percent)
+        return;
     percent_ = percent;
-    if (!taskbar_)
-        connectToTaskbar();
-    drawOnAll();
-}
-
-void WindowsTaskbarProgress::clear() {
-    percent_.reset();
-    drawOnAll();
+    for (const QWindow* const window : QGuiApplication::topLevelWindows()) {
+        // Dialogs and menus have no button.
+        if (window->isVisible() && window->transientParent() == nullptr)
+            draw_(reinterpret_cast<HWND>(window->winId()), percent_);
+    }
 }
 
 bool WindowsTaskbarProgress::nativeEventFilter(const QByteArray&, void* message, qintptr*) {
     const auto& event = *static_cast<const MSG*>(message);
-    if (event.message == buttonMade_ && percent_) {
-        connectToTaskbar(); // which may be a new one
-        drawOn(event.hwnd);
-    }
+    if (event.message == buttonMade_ && percent_)
+        draw_(event.hwnd, percent_);
     return false;
 }
 
-void WindowsTaskbarProgress::connectToTaskbar() {
-    ITaskbarList3* taskbar = nullptr;
-    if (SUCCEEDED(CoCreateInstance(CLSID_TaskbarList, nullptr, CLSCTX_INPROC_SERVER, IID_ITaskbarList3,
-                                   reinterpret_cast<void**>(&taskbar))))
-        taskbar_.reset(taskbar);
-    if (taskbar_ && FAILED(taskbar_->HrInit()))
-        taskbar_.reset();
-}
-
-void WindowsTaskbarProgress::drawOnAll() const {
-    for (const QWindow* const window : QGuiApplication::topLevelWindows()) {
-        // The others have no button, and asking for their id would make a window of them.
-        if (window->isVisible() && window->handle() != nullptr && window->transientParent() == nullptr)
-            drawOn(reinterpret_cast<HWND>(window->winId()));
-    }
-}
-
-void WindowsTaskbarProgress::drawOn(HWND window) const {
+void WindowsTaskbarProgress::drawOnButton(HWND window, std::optional<int> percent) {
     constexpr ULONGLONG kWhole = 100;
-    if (!taskbar_)
+    // Made each time, since the task bar may be another one by now.
+    ITaskbarList3* taskbar = nullptr;
+    if (FAILED(CoCreateInstance(CLSID_TaskbarList, nullptr, CLSCTX_INPROC_SERVER, IID_ITaskbarList3,
+                                reinterpret_cast<void**>(&taskbar))))
         return;
-    if (percent_)
-        taskbar_->SetProgressValue(window, static_cast<ULONGLONG>(*percent_), kWhole);
-    else
-        taskbar_->SetProgressState(window, TBPF_NOPROGRESS);
+    if (SUCCEEDED(taskbar->HrInit())) {
+        if (percent)
+            taskbar->SetProgressValue(window, static_cast<ULONGLONG>(*percent), kWhole);
+        else
+            taskbar->SetProgressState(window, TBPF_NOPROGRESS);
+    }
+    taskbar->Release();
 }
 
 std::unique_ptr<TaskbarProgress> native::makeTaskbarProgress() {

@@ -5,32 +5,29 @@
 
 #include <QAbstractNativeEventFilter>
 
-#include <shobjidl.h>
-
 namespace tarnwell {
 
-/// A window's task button is made anew each time the window is shown, and all of them when the task bar is
-/// restarted; the system tells the window, and the button is drawn on again.
+/// Draws on the task buttons of all windows that are shown. A window gets a new button each time it is shown,
+/// and all of them do when the task bar is restarted; the system tells the window, and the button is drawn
+/// on.
 class WindowsTaskbarProgress : public TaskbarProgress, private QAbstractNativeEventFilter {
 public:
-    WindowsTaskbarProgress();
+    /// Draws a percentage on the button of a window, or takes it off.
+    using Draw = std::function<void(HWND window, std::optional<int> percent)>;
+    static void drawOnButton(HWND window, std::optional<int> percent);
+
+    explicit WindowsTaskbarProgress(Draw draw = drawOnButton);
     ~WindowsTaskbarProgress() override;
 
-    void show(int percent) override;
-    void clear() override;
+    void show(int percent) override { change(percent); }
+    void clear() override { change(std::nullopt); }
 
 private:
-    struct Release {
-        void operator()(IUnknown* object) const { object->Release(); }
-    };
-
+    void change(std::optional<int> percent);
     bool nativeEventFilter(const QByteArray& kind, void* message, qintptr* result) override;
-    void connectToTaskbar();
-    void drawOnAll() const;
-    void drawOn(HWND window) const;
 
     const UINT buttonMade_ = RegisterWindowMessageW(L"TaskbarButtonCreated");
-    std::unique_ptr<ITaskbarList3, Release> taskbar_;
+    const Draw draw_;
     std::optional<int> percent_;
 };
 
