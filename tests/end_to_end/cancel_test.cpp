@@ -106,19 +106,5 @@ TEST_F(CancelledInstall, TheProgramWaitsForAToolThatTakesItsTime) {
     });
 }
 
-/// Of a tool that has told 100 percent and takes long to end.
-TEST_F(CancelledInstall, AtOneHundredPercent) {
-    replaceTool("inject_cd", "printf '100%%, 0 min remaining, 9.00 MB/sec\\r'; trap 'exit 1' INT; "
-                             "while :; do sleep 0.1; done");
-    play([&](User& user) {
-        prepare(user, {});
-        waitForPercent(user, 100);
-        cancel(user);
-        EXPECT_FALSE(user.windowUp("frmStatus"));
-        EXPECT_EQ(user.rows("lstHD").size(), 3);
-        EXPECT_TRUE(user.enabled("cmdInstall"));
-    });
-}
-
 } // namespace
 } // namespace tarnwell::test

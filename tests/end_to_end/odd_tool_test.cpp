@@ -79,13 +79,15 @@ TEST_F(OddTool, AMissingOneIsMissed) {
 }
 
 TEST_F(OddTool, OneThatCannotBeStartedIsGivenUp) {
-    QFile::setPermissions(bench.tool(), QFile::ReadOwner);
+    QFile::rename(bench.tool(), bench.path("elsewhere"));
+    write(bench.tool(), "no program");
     play([&](User& user) {
         user.click("optLocal");
         EXPECT_EQ(user.confirmMessage(), kUnknownError);
         EXPECT_EQ(user.confirmMessage(), "No PS2 formatted HDD's were found on your system.");
         user.waitUntilIdle();
-        QFile::setPermissions(bench.tool(), QFile::ReadOwner | QFile::ExeOwner);
+        QFile::remove(bench.tool());
+        QFile::rename(bench.path("elsewhere"), bench.tool());
         expectUsable(user);
     });
 }
