@@ -15,8 +15,9 @@ inline double now() {
     return static_cast<double>(std::chrono::steady_clock::now().time_since_epoch().count());
 }
 
-inline double residentKilobytes() {
-    QFile status("/proc/self/status");
+/// Of a process by its id, or of this one.
+inline double residentKilobytes(qint64 process = QCoreApplication::applicationPid()) {
+    QFile status(QStringLiteral("/proc/%1/status").arg(process));
     if (!status.open(QIODevice::ReadOnly))
         return 0;
     const QByteArray text = status.readAll();

@@ -40,12 +40,12 @@ void measureFirstWindow(const FreshProcesses& processes, const Effort& effort, R
                 .measured = median(program.milliseconds),
                 .unit = "ms",
                 .against = median(bare.milliseconds),
-                .atMost = 2});
+                .atMost = 1.5});
     report.add({.what = "Memory in use by then",
                 .measured = median(program.megabytes),
                 .unit = "MB",
                 .against = median(bare.megabytes),
-                .atMost = 1.6});
+                .atMost = 1.5});
 }
 
 void firstWindow(int) {

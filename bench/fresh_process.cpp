@@ -18,6 +18,7 @@ constexpr int kLongestRunMs = 60'000;
 FreshProcesses::FreshProcesses() {
     const QString here = QCoreApplication::applicationDirPath() + '/';
     QFile::copy(QCoreApplication::applicationFilePath(), folder_.filePath("bench"));
+    QFile::copy(here + "tarnwell-gui", program());
     QFile::copy(here + "bench_bare_window", folder_.filePath("bare-window"));
     QFile::copy(here + "bench_scripted_tool", folder_.filePath("tarnwell.exe"));
 }
@@ -28,6 +29,15 @@ std::vector<double> FreshProcesses::child(const QString& act, const QStringList&
 
 std::vector<double> FreshProcesses::bareWindow() const {
     return run("bare-window", {});
+}
+
+QProcessEnvironment FreshProcesses::environmentOn(const QString& display) const {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("DISPLAY", display);
+    environment.insert("QT_QPA_PLATFORM", "xcb");
+    environment.insert("XDG_CONFIG_HOME", folder_.filePath("settings"));
+    environment.remove("WAYLAND_DISPLAY");
+    return environment;
 }
 
 std::vector<double> FreshProcesses::run(const QString& program, const QStringList& arguments) const {

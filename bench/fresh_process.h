@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QProcessEnvironment>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -22,6 +23,12 @@ public:
     /// The numbers that the benchmark prints as the child `act`; none if it failed.
     std::vector<double> child(const QString& act, const QStringList& arguments = {}) const;
     std::vector<double> bareWindow() const;
+
+    /// The program itself and a bare window, to be started by somebody else.
+    QString program() const { return folder_.filePath("tarnwell-gui"); }
+    QString bareWindowProgram() const { return folder_.filePath("bare-window"); }
+    /// For any program: its windows on that X screen, its settings in a folder of the benchmark's.
+    QProcessEnvironment environmentOn(const QString& display) const;
 
 private:
     std::vector<double> run(const QString& program, const QStringList& arguments) const;

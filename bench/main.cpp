@@ -10,16 +10,19 @@
 namespace tarnwell::bench {
 namespace {
 
-constexpr Effort kFull{.starts = 21, .progressSeconds = 20, .commands = 200, .rounds = 15, .jobs = 100};
-constexpr Effort kQuick{.starts = 1, .progressSeconds = 1, .commands = 5, .rounds = 1, .jobs = 3};
+constexpr Effort kFull{
+    .starts = 21, .progressSeconds = 20, .commands = 200, .rounds = 15, .jobs = 100, .peerStarts = 9};
+constexpr Effort kQuick{
+    .starts = 1, .progressSeconds = 1, .commands = 5, .rounds = 1, .jobs = 3, .peerStarts = 0};
 
 int runChild(const QStringList& arguments) {
     constexpr struct {
         const char* name;
         void (*run)(int);
-    } kChildren[] = {{"first-window", firstWindow},   {"progress-load", progressLoad},
-                     {"command-delay", commandDelay}, {"interpreter-speed", interpreterSpeed},
-                     {"game-list", gameList},         {"queue-overhead", queueOverhead}};
+    } kChildren[] = {{"first-window", firstWindow},    {"progress-load", progressLoad},
+                     {"command-delay", commandDelay},  {"interpreter-speed", interpreterSpeed},
+                     {"game-list", gameList},          {"scale", scale},
+                     {"queue-overhead", queueOverhead}};
     for (const auto& child : kChildren) {
         if (arguments.value(0) == child.name) {
             child.run(arguments.value(1).toInt());
@@ -39,8 +42,8 @@ int runAll(bool quick) {
     const FreshProcesses processes;
     Report report;
     report.printHeadings();
-    for (const auto measure : {measureFirstWindow, measureProgressLoad, measureCommandDelay,
-                               measureInterpreterSpeed, measureGameList, measureQueueOverhead})
+    for (const auto measure : {measureFirstWindow, measurePeers, measureProgressLoad, measureCommandDelay,
+                               measureInterpreterSpeed, measureGameList, measureScale, measureQueueOverhead})
         measure(processes, effort, report);
     return report.complete() ? 0 : 1;
 }

@@ -13,13 +13,16 @@ struct Effort {
     int commands;
     int rounds;
     int jobs;
+    int peerStarts; ///< after a first one that does not count; 0: that one counts
 };
 
 void measureFirstWindow(const FreshProcesses& processes, const Effort& effort, Report& report);
+void measurePeers(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measureProgressLoad(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measureCommandDelay(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measureInterpreterSpeed(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measureGameList(const FreshProcesses& processes, const Effort& effort, Report& report);
+void measureScale(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measureQueueOverhead(const FreshProcesses& processes, const Effort& effort, Report& report);
 
 /// The children; `argument` is the part of the effort that concerns them.
@@ -28,6 +31,7 @@ void progressLoad(int seconds);
 void commandDelay(int commands);
 void interpreterSpeed(int rounds);
 void gameList(int rounds);
+void scale(int rounds);
 void queueOverhead(int jobs);
 
 } // namespace tarnwell::bench

@@ -39,4 +39,7 @@ start_display
 mkdir -p "$WINEPREFIX"
 wine wineboot -i 2>/dev/null
 wine regedit "$here/wine.reg"
+# Wine knows fonts of the system, but not where Debian keeps Wine's own, Tahoma among them.
+cp -u /usr/share/wine/fonts/* "$WINEPREFIX/drive_c/windows/Fonts"
+wineserver -k # what runs by now knows the fonts of before
 "$@"

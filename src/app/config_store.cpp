@@ -1,13 +1,13 @@
 #include "app/config_store.h"
 
 #include "app/ini_text.h"
+#include "app/replace_file.h"
 #include "interpreter/text_primitives.h"
 #include "platform/ports.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <limits>
@@ -47,14 +47,6 @@ constexpr Default kDefaults[] = {
 IniText load(const QString& path) {
     QFile file(path);
     return IniText(file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray());
-}
-
-void save(const IniText& ini, const QString& path) {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return;
-    file.write(ini.bytes());
-    file.commit();
 }
 
 } // namespace
@@ -101,7 +93,7 @@ void ConfigStore::WriteDefaultConfig() const {
     IniText ini = load(path());
     for (const auto& [key, value] : kDefaults)
         ini.setValue(kSection.toLocal8Bit(), key, value);
-    save(ini, path());
+    TryToReplaceFile(path(), ini.bytes());
 }
 
 bool FileExists(const QString& path) {
@@ -127,8 +119,11 @@ QString ConfigRead(const QString& section, const QString& key, const QString& pa
 
 void ConfigWrite(const QString& section, const QString& key, const QString& value, const QString& path) {
     IniText ini = load(path);
+    const QByteArray before = ini.bytes();
     ini.setValue(section.toLocal8Bit(), key.toLocal8Bit(), value.toLocal8Bit());
-    save(ini, path);
+    // Replacing a file waits for the disk, and settings are mostly written as they stand.
+    if (ini.bytes() != before)
+        TryToReplaceFile(path, ini.bytes());
 }
 
 } // namespace tarnwell

@@ -1,8 +1,12 @@
 #include "app/desktop_program.h"
 
 #include "ui/qt/application_icon.h"
+#include "ui/qt/event_watcher.h"
 
 #include <QGuiApplication>
+#include <QTimer>
+
+#include <utility>
 
 namespace tarnwell {
 
@@ -12,9 +16,18 @@ DesktopProgram::DesktopProgram(const QtSystemFolders& folders)
       program_(ports_.ports()), mainWindow_(program_.shared().frmMain),
       settingsWindow_(program_.shared().frmSettings.untouched()),
       statusWindow_(program_.shared().frmStatus.untouched()) {
-    QGuiApplication::setWindowIcon(view::applicationIcon());
+    giveIconOnceShown();
     mainWindow_.hideMinimises = !ports_.tray.available();
     mainWindow_.restored = [this] { program_.hideAndRestore().restore(); };
+}
+
+void DesktopProgram::giveIconOnceShown() {
+    // Desktops take an icon in all its sizes, and reading those takes as long as laying out the window.
+    new view::EventWatcher(mainWindow_, [given = false](QEvent& event) mutable {
+        if (event.type() == QEvent::Paint && !std::exchange(given, true))
+            QTimer::singleShot(0, qApp, [] { QGuiApplication::setWindowIcon(view::applicationIcon()); });
+        return false;
+    });
 }
 
 int DesktopProgram::run() {

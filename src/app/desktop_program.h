@@ -24,6 +24,8 @@ public:
     view::StatusWindowView& statusWindow() { return statusWindow_; }
 
 private:
+    void giveIconOnceShown();
+
     DesktopPorts ports_;
     Program program_;
     view::MainWindowView mainWindow_;

@@ -1,7 +1,7 @@
 #include "settings/tool_config.h"
 
 #include "app/fault.h"
-#include "settings/replace_file.h"
+#include "app/replace_file.h"
 #include "settings/tool_config_text.h"
 
 #include <QDir>

@@ -79,8 +79,9 @@ void ComboBox::clear() {
 }
 
 void ComboBox::reset() {
-    items_ = declaredItems_;
-    itemsChanged.emitNow();
+    clear();
+    for (const QString& item : declaredItems_)
+        addItem(item);
     Control::reset();
 }
 

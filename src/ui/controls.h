@@ -71,7 +71,7 @@ public:
     /// nothing.
     Property<int> listIndex;
     Event<> Click;
-    Signal<> itemsChanged;
+    Signal<> itemsChanged; ///< one more has come, or all have gone
 
     const QStringList& items() const { return items_; }
     int listCount() const { return static_cast<int>(items_.size()); }

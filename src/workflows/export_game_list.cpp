@@ -1,9 +1,9 @@
 #include "workflows/export_game_list.h"
 
+#include "app/replace_file.h"
 #include "interpreter/text_primitives.h"
 
 #include <QFile>
-#include <QSaveFile>
 
 namespace tarnwell {
 
@@ -32,15 +32,6 @@ QString withWordsReplaced(QString line, const QStringList& subItems) {
     return line.replace(QLatin1String("%tab"), QLatin1String("\t"));
 }
 
-/// All of the text or nothing. A file that cannot be written goes unnoticed.
-void writeFile(const QString& path, const QString& text) {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return;
-    file.write(text.toLocal8Bit());
-    file.commit();
-}
-
 } // namespace
 
 ExportGameList::ExportGameList(Shared& shared) : shared_(shared) {
@@ -59,7 +50,7 @@ void ExportGameList::exportList() {
     // The dialog has asked: the old file goes now, whatever becomes of the new one.
     QFile::remove(*path);
     const auto format = dialogs.input(kFormatPrompt, "Export Game List", QString());
-    writeFile(*path, listText(format.value_or(QString())));
+    TryToReplaceFile(*path, listText(format.value_or(QString())).toLocal8Bit());
 }
 
 QString ExportGameList::listText(const QString& format) const {

@@ -106,18 +106,10 @@ TEST_F(CancelledInstall, TheProgramWaitsForAToolThatTakesItsTime) {
     });
 }
 
-/// A tool that tells 100 percent and then takes long to end.
-constexpr char kSlowToEnd[] = R"(#!/bin/sh
-case $1 in
-inject_cd) printf '100%%, 0 min remaining, 9.00 MB/sec\r'; trap 'exit 1' INT; while :; do sleep 0.1; done ;;
-*) exec "$(dirname "$0")/real-tool" "$@" ;;
-esac
-)";
-
+/// Of a tool that has told 100 percent and takes long to end.
 TEST_F(CancelledInstall, AtOneHundredPercent) {
-    QFile::rename(bench.tool(), bench.path("real-tool"));
-    write(bench.tool(), kSlowToEnd);
-    QFile::setPermissions(bench.tool(), QFile::ReadOwner | QFile::ExeOwner);
+    replaceTool("inject_cd", "printf '100%%, 0 min remaining, 9.00 MB/sec\\r'; trap 'exit 1' INT; "
+                             "while :; do sleep 0.1; done");
     play([&](User& user) {
         prepare(user, {});
         waitForPercent(user, 100);

@@ -1,7 +1,9 @@
 #include "end_to_end/whole_program.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QRandomGenerator>
+#include <QThread>
 
 namespace tarnwell::test {
 
@@ -77,6 +79,13 @@ QString WholeProgram::logged(const QString& command) const {
     return lines.join('\n');
 }
 
+void WholeProgram::replaceTool(const QByteArray& command, const QByteArray& script) const {
+    QFile::rename(bench.tool(), bench.path("real-tool"));
+    write(bench.tool(), "#!/bin/sh\ncase $1 in\n" + command + ") " + script +
+                            " ;;\n*) exec \"$(dirname \"$0\")/real-tool\" \"$@\" ;;\nesac\n");
+    QFile::setPermissions(bench.tool(), QFile::ReadOwner | QFile::ExeOwner);
+}
+
 QByteArray WholeProgram::contents(const QString& file) {
     QFile opened(file);
     EXPECT_TRUE(opened.open(QFile::ReadOnly)) << file.toStdString();
@@ -87,6 +96,17 @@ void WholeProgram::write(const QString& file, const QByteArray& bytes) {
     QFile opened(file);
     ASSERT_TRUE(opened.open(QFile::WriteOnly)) << file.toStdString();
     opened.write(bytes);
+}
+
+bool comesTrue(const std::function<bool()>& condition) {
+    constexpr int kPatienceMs = 30'000, kPauseMs = 20;
+    const QDeadlineTimer deadline(kPatienceMs);
+    while (!condition()) {
+        if (deadline.hasExpired())
+            return false;
+        QThread::msleep(kPauseMs);
+    }
+    return true;
 }
 
 } // namespace tarnwell::test

@@ -13,6 +13,9 @@ namespace tarnwell::test {
 using tour::User;
 using tour::Workbench;
 
+/// Whether something outside this process comes true within half a minute.
+bool comesTrue(const std::function<bool()>& condition);
+
 /// The program as people run it: its windows, its ports, a tool that is a process of its own. A scenario
 /// plays the user.
 class WholeProgram : public testing::Test {
@@ -33,6 +36,8 @@ protected:
     /// Copies a game from the disk to a file, with the tool alone.
     QByteArray extract(const QString& device, const QString& game) const;
     QString logged(const QString& command) const;
+    /// From here on a shell script answers one of the tool's commands.
+    void replaceTool(const QByteArray& command, const QByteArray& script) const;
 
     static QByteArray contents(const QString& file);
     static void write(const QString& file, const QByteArray& bytes);

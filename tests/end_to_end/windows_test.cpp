@@ -4,23 +4,8 @@
 #include <QProcessEnvironment>
 #include <QStandardPaths>
 
-#include <chrono>
-#include <thread>
-
 namespace tarnwell::test {
 namespace {
-
-constexpr std::chrono::seconds kPatience{30};
-
-bool comesTrue(const std::function<bool()>& condition) {
-    const auto giveUp = std::chrono::steady_clock::now() + kPatience;
-    while (!condition()) {
-        if (std::chrono::steady_clock::now() > giveUp)
-            return false;
-        std::this_thread::sleep_for(std::chrono::milliseconds(20));
-    }
-    return true;
-}
 
 class Windows : public WholeProgram {
 protected:

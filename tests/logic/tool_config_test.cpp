@@ -1,6 +1,6 @@
 #include "app/fault.h"
+#include "app/replace_file.h"
 #include "interpreter/text_primitives.h"
-#include "settings/replace_file.h"
 #include "settings/tool_config_text.h"
 #include "support/settings_test.h"
 

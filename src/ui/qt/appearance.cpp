@@ -77,6 +77,19 @@ QFont toFont(const std::optional<ui::Font>& font) {
     return result;
 }
 
+void bindFont(Binding& binding, ui::Control& control, QWidget& widget) {
+    const auto show = [&control, &widget] { widget.setFont(toFont(control.font)); };
+    binding.listen(control.font.changed, widget, show);
+    if (!control.font.get())
+        return;
+    // A font of a control's own takes long to load, and the control may lie on a page that nobody opens.
+    new EventWatcher(widget, [show](QEvent& event) {
+        if (event.type() == QEvent::Show)
+            show();
+        return false;
+    });
+}
+
 void reportPlace(Binding& binding, ui::Control& control, const QWidget& widget) {
     // Where writing runs from right to left, the left of the model is the leading edge, too.
     const QRect place =
@@ -110,10 +123,11 @@ void bindAppearance(Binding& binding, ui::Control& control, QWidget& widget) {
     binding.follow(control.toolTip.changed, widget,
                    [&] { widget.setToolTip(plainToolTip(control.toolTip)); });
     binding.follow(control.enabled.changed, widget, [&] { widget.setEnabled(control.enabled); });
-    binding.follow(control.visible.changed, widget, [&] { widget.setVisible(control.visible); });
-    binding.listen(control.font.changed, widget, [&] { widget.setFont(toFont(control.font)); });
-    if (control.font.get())
-        widget.setFont(toFont(control.font));
+    binding.listen(control.visible.changed, widget, [&] { widget.setVisible(control.visible); });
+    // The others are shown with the window, once they have been laid out.
+    if (!control.visible)
+        widget.hide();
+    bindFont(binding, control, widget);
     if (control.kind != ui::Kind::PictureBox)
         bindColors(binding, control, widget);
 

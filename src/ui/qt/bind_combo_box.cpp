@@ -13,8 +13,11 @@ QWidget* bindComboBox(Binding& binding, ui::ComboBox& list, QWidget* parent) {
     combo->setMinimumContentsLength(kCharactersAtLeast);
     const auto showChoice = [&list, combo] { combo->setCurrentIndex(list.listIndex); };
     binding.follow(list.itemsChanged, *combo, [&list, combo, showChoice] {
-        combo->clear();
-        combo->addItems(list.items());
+        // Entries come one by one and go all at once.
+        if (combo->count() > list.listCount())
+            combo->clear();
+        for (int i = combo->count(); i < list.listCount(); ++i)
+            combo->addItem(list.items().at(i));
         showChoice();
     });
     binding.listen(list.listIndex.changed, *combo, showChoice);

@@ -115,13 +115,19 @@ private:
         binding_.follow(list_.columns.changed, *this, show);
         binding_.listen(list_.font.changed, *this, [this] { showColumnWidths(); });
         binding_.listen(binding_.scaleChanged, *this, [this] { showColumnWidths(); });
+        new EventWatcher(view_, [this](QEvent& event) {
+            if (event.type() == QEvent::Show)
+                showColumnWidths();
+            return false;
+        });
     }
 
     /// Every column gets its width, but never cuts its heading; the widest takes what the list has to spare.
     void showColumnWidths() {
         QHeaderView* header = view_.header();
         const auto& columns = list_.columns.get();
-        if (columns.empty())
+        // Headings take long to measure.
+        if (columns.empty() || !view_.isVisible())
             return;
         const auto widest = std::max_element(columns.begin(), columns.end(),
                                              [](const auto& a, const auto& b) { return a.width < b.width; });

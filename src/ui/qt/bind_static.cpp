@@ -1,7 +1,7 @@
 #include "ui/qt/bind_controls.h"
 #include "ui/qt/captions.h"
+#include "ui/qt/group_box.h"
 
-#include <QGroupBox>
 #include <QLabel>
 
 namespace tarnwell::view {
@@ -31,7 +31,7 @@ private:
 QWidget* bindFrame(Binding& binding, ui::Frame& frame, QWidget* parent) {
     if (frame.caption.get().isEmpty())
         return new QWidget(parent);
-    auto* box = new QGroupBox(parent);
+    auto* box = new GroupBox(parent);
     // Pages lie over one another, so nothing may shine through.
     box->setAutoFillBackground(!frame.container);
     binding.follow(frame.caption.changed, *box,

@@ -1,4 +1,4 @@
-#include "settings/replace_file.h"
+#include "app/replace_file.h"
 
 #include "app/fault.h"
 
@@ -18,8 +18,18 @@ void ReplaceFile(const QString& path, const QByteArray& bytes, const std::functi
     };
     demand([&] { return file.open(QIODevice::WriteOnly); });
     demand([&] { return file.write(bytes) == bytes.size(); });
+    // Without this a full disk goes unnoticed, and what is left of the bytes takes the old file's place.
     demand([&] { return file.flush(); });
     demand([&] { return file.commit(); });
+}
+
+bool TryToReplaceFile(const QString& path, const QByteArray& bytes) {
+    try {
+        ReplaceFile(path, bytes);
+        return true;
+    } catch (const Fault&) {
+        return false;
+    }
 }
 
 } // namespace tarnwell

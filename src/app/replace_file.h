@@ -11,4 +11,7 @@ namespace tarnwell {
 /// failure is a Fault. `beforeStep` is called before each single step on the disk and may throw.
 void ReplaceFile(const QString& path, const QByteArray& bytes, const std::function<void()>& beforeStep = {});
 
+/// The same for files whose failure nobody is told of. Whether the new bytes are there.
+bool TryToReplaceFile(const QString& path, const QByteArray& bytes);
+
 } // namespace tarnwell

@@ -1,0 +1,45 @@
+#include "ui/qt/group_box.h"
+
+#include <QStyleOptionGroupBox>
+#include <QStylePainter>
+
+namespace tarnwell::view {
+
+namespace {
+
+QColor mixed(const QColor& ground, const QColor& ink, double share) {
+    const auto mix = [&](double from, double to) { return static_cast<float>(from + (to - from) * share); };
+    return QColor::fromRgbF(mix(ground.redF(), ink.redF()), mix(ground.greenF(), ink.greenF()),
+                            mix(ground.blueF(), ink.blueF()));
+}
+
+/// In opaque colours: Qt starts threads to draw a translucent surface of this size.
+void drawFrame(QPainter& painter, const QRect& frame, const QPalette& palette) {
+    constexpr double kShade = 0.03, kOutline = 0.18;
+    const QColor ground = palette.color(QPalette::Window), ink = palette.color(QPalette::WindowText);
+    painter.fillRect(frame, mixed(ground, ink, kShade));
+    painter.setPen(mixed(ground, ink, kOutline));
+    painter.drawRect(frame.adjusted(0, 0, -1, -1));
+}
+
+} // namespace
+
+void GroupBox::paintEvent(QPaintEvent* event) {
+    if (!style()->inherits("QFusionStyle")) {
+        QGroupBox::paintEvent(event);
+        return;
+    }
+    QStyleOptionGroupBox option;
+    initStyleOption(&option);
+    const auto place = [&](QStyle::SubControl part) {
+        return style()->subControlRect(QStyle::CC_GroupBox, &option, part, this);
+    };
+    QRect frame = place(QStyle::SC_GroupBoxFrame);
+    frame.setTop(place(QStyle::SC_GroupBoxLabel).bottom() + 1);
+    QStylePainter painter(this);
+    drawFrame(painter, frame, palette());
+    option.subControls = QStyle::SC_GroupBoxLabel;
+    painter.drawComplexControl(QStyle::CC_GroupBox, option);
+}
+
+} // namespace tarnwell::view
