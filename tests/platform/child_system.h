@@ -3,7 +3,7 @@
 /// What child_helper does with the system's own means, defined once for each system.
 namespace child {
 
-/// Streams pass on their bytes as they are.
+/// To be called first. Streams pass on their bytes as they are from then on.
 void prepare();
 [[noreturn]] void hang();
 /// Ends without a clean-up and without a core file.

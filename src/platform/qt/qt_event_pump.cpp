@@ -1,8 +1,9 @@
 #include "platform/qt/qt_event_pump.h"
 
 #include <QAbstractEventDispatcher>
+#include <QApplication>
 #include <QDeadlineTimer>
-#include <QGuiApplication>
+#include <QDialog>
 #include <QTimer>
 
 #include <algorithm>
@@ -17,7 +18,7 @@ constexpr int kLongestPumpMs = 20;
 } // namespace
 
 QtEventPump::QtEventPump() {
-    QGuiApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setQuitOnLastWindowClosed(false);
 }
 
 void QtEventPump::pump() {
@@ -43,6 +44,11 @@ void QtEventPump::waitForEvent(int milliseconds) {
 
 void QtEventPump::end() {
     ended_ = true;
+    // A dialog of the system's own would not hear of the exit.
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+        if (auto* const dialog = qobject_cast<QDialog*>(window); dialog != nullptr && dialog->isVisible())
+            dialog->reject();
+    }
     // Not quit(): that would ask the windows, and one that refuses to close would cancel the end.
     QCoreApplication::exit();
 }
@@ -54,6 +60,8 @@ int QtEventPump::run() {
 void QtEventPump::servePending() const {
     const QDeadlineTimer limit(kLongestPumpMs);
     auto* const queue = QAbstractEventDispatcher::instance();
+    // On Windows the answer of the first round may be no more than that some loop before it was ended.
+    queue->processEvents(QEventLoop::AllEvents);
     while (!ended_ && queue->processEvents(QEventLoop::AllEvents) && !limit.hasExpired()) {
     }
 }

@@ -41,13 +41,18 @@ private:
     /// A program that outlives this one must not keep our sockets and files open.
     bool handDownOnlyStreams() {
         const STARTUPINFOW& streams = startup_.StartupInfo;
-        streams_ = {streams.hStdInput, streams.hStdOutput, streams.hStdError};
+        streams_ = {streams.hStdInput, streams.hStdOutput};
+        if (streams.hStdError != streams.hStdOutput) // the system takes none twice
+            streams_.push_back(streams.hStdError);
         SIZE_T size = 0;
         InitializeProcThreadAttributeList(nullptr, 1, 0, &size);
         attributes_.resize(size);
         startup_.lpAttributeList = attributes();
-        return InitializeProcThreadAttributeList(attributes(), 1, 0, &size) &&
-               UpdateProcThreadAttribute(attributes(), 0, PROC_THREAD_ATTRIBUTE_HANDLE_LIST, streams_.data(),
+        if (!InitializeProcThreadAttributeList(attributes(), 1, 0, &size)) {
+            attributes_.clear();
+            return false;
+        }
+        return UpdateProcThreadAttribute(attributes(), 0, PROC_THREAD_ATTRIBUTE_HANDLE_LIST, streams_.data(),
                                          streams_.size() * sizeof(HANDLE), nullptr, nullptr);
     }
 

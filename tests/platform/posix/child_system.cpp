@@ -5,7 +5,15 @@
 
 namespace child {
 
-void prepare() {}
+namespace {
+
+pid_t parent = 0;
+
+} // namespace
+
+void prepare() {
+    parent = ::getppid();
+}
 
 void hang() {
     for (;;)
@@ -22,7 +30,6 @@ bool standsAlone() {
 }
 
 void waitForParentsEnd() {
-    const pid_t parent = ::getppid();
     for (int i = 0; i < 2000 && ::getppid() == parent; ++i)
         ::usleep(5000);
 }

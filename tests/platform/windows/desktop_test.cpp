@@ -1,5 +1,7 @@
 #include "platform/helpers.h"
 #include "platform/native.h"
+#include "platform/qt/qt_dialogs.h"
+#include "platform/system_helpers.h"
 #include "platform/windows/windows_power.h"
 #include "platform/windows/windows_taskbar_progress.h"
 #include "support/gtest_qt.h"
@@ -88,14 +90,43 @@ TEST(Sound, NothingIsWaitedFor) {
     EXPECT_LT(sinceStart.elapsed(), 5000);
 }
 
-TEST(WakeLock, MayBeHeldAndReleasedAtAnyTime) {
+TEST(WakeLock, MayBeHeldAndReleasedAtAnyTimeAndLeavesNothingBehind) {
     const auto lock = native::makeWakeLock();
     lock->release();
+    const int before = test::openHandles();
     for (int run = 0; run < 2; ++run) {
         lock->hold("Tarnwell GUI is working");
         lock->hold("Tarnwell GUI is working");
         lock->release();
         lock->release();
+    }
+    EXPECT_EQ(test::openHandles(), before);
+}
+
+/// The system's own dialogs for files, which the other tests do without.
+class SystemDialogs : public testing::Test {
+protected:
+    SystemDialogs() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs, false); }
+    ~SystemDialogs() override { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+};
+
+TEST_F(SystemDialogs, AreClosedByTheEndOfTheProgram) {
+    using Open = std::function<void(QtDialogs&)>;
+    for (const Open& open : {Open([](QtDialogs& dialogs) { dialogs.openFile({}); }),
+                             Open([](QtDialogs& dialogs) { dialogs.saveFile({}); }),
+                             Open([](QtDialogs& dialogs) { dialogs.chooseFolder({}); })}) {
+        QtEventPump pump;
+        QtDialogs dialogs(pump);
+        bool ended = false;
+        test::runProgram(pump, [&] {
+            QTimer::singleShot(1000, qApp, [&] { pump.end(); });
+            try {
+                open(dialogs);
+            } catch (const ProgramEnded&) {
+                ended = true;
+            }
+        });
+        EXPECT_TRUE(ended);
     }
 }
 
