@@ -1,13 +1,14 @@
 #include "app/config_store.h"
 
+#include "app/fault.h"
 #include "app/ini_text.h"
 #include "interpreter/text_primitives.h"
 #include "platform/ports.h"
+#include "settings/replace_file.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <limits>
@@ -50,11 +51,11 @@ IniText load(const QString& path) {
 }
 
 void save(const IniText& ini, const QString& path) {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return;
-    file.write(ini.bytes());
-    file.commit();
+    try {
+        ReplaceFile(path, ini.bytes());
+    } catch (const Fault&) {
+        // The old values stay.
+    }
 }
 
 } // namespace

@@ -1,9 +1,10 @@
 #include "workflows/export_game_list.h"
 
+#include "app/fault.h"
 #include "interpreter/text_primitives.h"
+#include "settings/replace_file.h"
 
 #include <QFile>
-#include <QSaveFile>
 
 namespace tarnwell {
 
@@ -34,11 +35,10 @@ QString withWordsReplaced(QString line, const QStringList& subItems) {
 
 /// All of the text or nothing. A file that cannot be written goes unnoticed.
 void writeFile(const QString& path, const QString& text) {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return;
-    file.write(text.toLocal8Bit());
-    file.commit();
+    try {
+        ReplaceFile(path, text.toLocal8Bit());
+    } catch (const Fault&) {
+    }
 }
 
 } // namespace
