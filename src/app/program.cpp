@@ -27,7 +27,7 @@ Program::Program(const Ports& ports)
       deviceSelection_(shared_, channel_, interpreter_), installSource_(shared_, channel_, interpreter_),
       installNow_(shared_, channel_, StdIO_, guiSwitch_, completionActions_), makeIso_(shared_, jobList_),
       copyGames_(shared_, jobList_), deleteGames_(shared_, channel_, jobList_),
-      renameGame_(shared_, channel_), exportGameList_(shared_), appearance_(shared_),
+      renameGame_(shared_, channel_, guiSwitch_), exportGameList_(shared_), appearance_(shared_),
       diskTools_(shared_, channel_, interpreter_, guiSwitch_), toolConfig_(shared_),
       dataFolder_(shared_, toolConfig_), guiSettings_(shared_, dataFolder_, sounds_, appearance_),
       settingsWindow_(shared_, guiSettings_, dataFolder_, toolConfig_) {
