@@ -14,6 +14,7 @@ DesktopProgram::DesktopProgram(const QtSystemFolders& folders)
       statusWindow_(program_.shared().frmStatus.untouched()),
       aboutWindow_(program_.shared().frmAbout.untouched()) {
     QGuiApplication::setWindowIcon(view::applicationIcon());
+    ports_.tray.makeMenu = [this] { return &mainWindow_.menu(program_.shared().frmMain.mnuSystray); };
     mainWindow_.hideMinimises = !ports_.tray.available();
     mainWindow_.restored = [this] { program_.hideAndRestore().restore(); };
 }
