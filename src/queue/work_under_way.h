@@ -19,7 +19,7 @@ public:
     WorkUnderWay& operator=(const WorkUnderWay&) = delete;
 
 private:
-    Ports ports_;
+    const Ports& ports_;
 };
 
 } // namespace tarnwell
