@@ -63,6 +63,8 @@ public:
             return QGuiApplication::primaryScreen()->grabWindow(0).save(words) ? "done" : "failed";
         else if (verb == "menu")
             return openMenu();
+        else if (verb == "dismiss")
+            QApplication::activePopupWidget()->close();
         else if (verb == "tray")
             return shared.ports.tray.available() ? "there" : "none";
         else if (verb == "window")
