@@ -30,11 +30,12 @@ Program::Program(const Ports& ports)
       renameGame_(shared_, channel_, guiSwitch_), exportGameList_(shared_), appearance_(shared_),
       diskTools_(shared_, channel_, interpreter_, guiSwitch_), toolConfig_(shared_),
       dataFolder_(shared_, toolConfig_), guiSettings_(shared_, dataFolder_, sounds_, appearance_),
-      settingsWindow_(shared_, guiSettings_, dataFolder_, toolConfig_) {
+      settingsWindow_(shared_, guiSettings_, dataFolder_, toolConfig_), aboutWindow_(shared_) {
     const auto dispatch = [this](const std::function<void()>& handler) { dispatcher_.dispatch(handler); };
     shared_.frmMain.dispatcher = dispatch;
     shared_.frmSettings.untouched().dispatcher = dispatch;
     shared_.frmStatus.untouched().dispatcher = dispatch;
+    shared_.frmAbout.untouched().dispatcher = dispatch;
     shared_.frmMain.Load = [this] { loadMain(); };
 }
 

@@ -13,6 +13,7 @@
 #include "queue/queue_runner.h"
 #include "queue/sounds.h"
 #include "queue/status_window.h"
+#include "services/about_window.h"
 #include "settings/appearance.h"
 #include "settings/disk_tools.h"
 #include "settings/settings_window.h"
@@ -74,6 +75,7 @@ private:
     DataFolder dataFolder_;
     GuiSettings guiSettings_;
     SettingsWindow settingsWindow_;
+    AboutWindow aboutWindow_;
 };
 
 } // namespace tarnwell

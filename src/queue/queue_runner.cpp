@@ -5,6 +5,7 @@
 #include "queue/job_result.h"
 #include "queue/status_window.h"
 #include "queue/wait_seconds.h"
+#include "queue/work_under_way.h"
 #include "services/mod_tray_icon.h"
 #include "tool/stop_tool.h"
 #include "workflows/device_selection.h"
@@ -68,6 +69,7 @@ void QueueRunner::resetResults() {
 }
 
 void QueueRunner::runJobs() {
+    const WorkUnderWay work(shared_.ports);
     const ui::ListView& lstJob = shared_.frmMain.lstJob;
     const int limit = qMin(lstJob.count(), kMostJobs);
     for (shared_.intJobIndex = 1; shared_.intJobIndex <= limit; ++shared_.intJobIndex) {

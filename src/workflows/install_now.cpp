@@ -1,6 +1,7 @@
 #include "workflows/install_now.h"
 
 #include "queue/status_window.h"
+#include "queue/work_under_way.h"
 #include "services/mod_tray_icon.h"
 #include "tool/stop_tool.h"
 #include "workflows/device_selection.h"
@@ -44,6 +45,7 @@ void InstallNow::openStatus(const QString& name) {
 }
 
 void InstallNow::run(const Installation& game) {
+    const WorkUnderWay work(shared_.ports);
     shared_.blnInstallRunning = true;
     shared_.blnJobDone = false;
     shared_.blnJobStopped = false;
