@@ -85,7 +85,7 @@ public:
     virtual bool exists(qint64 processId) const = 0;
 };
 
-enum class MessageIcon { Exclamation, Stop };
+enum class MessageIcon { Exclamation, Question, Stop };
 
 /// What the open dialog offers: the filter is a list of "words|pattern|" pairs.
 struct OpenFileRequest {
@@ -180,7 +180,8 @@ public:
 };
 
 /// A TCP server with one client at a time: whoever connects takes the place of the one before, whose
-/// connection stays open unheard until that side closes it.
+/// connection stays open unheard until that side closes it. Only of hundreds such connections the oldest are
+/// closed, so that no client can use up what the machine has of them.
 class HttpListener {
 public:
     virtual ~HttpListener() = default;
@@ -189,7 +190,8 @@ public:
     /// Takes no more clients and hears no more of the present one, whose connection stays open. Does nothing
     /// when it does not listen.
     virtual void close() = 0;
-    /// Sends to the present client; silent if that one has gone. Never waits.
+    /// Sends to the present client; silent if that one has gone. Never waits: nothing is sent as long as that
+    /// client has not taken what was sent before.
     virtual void send(const QByteArray& bytes) = 0;
     /// What the present client sent: at most kMostBytes at a time, each piece as it came. Attached by the
     /// program before `listen`.
