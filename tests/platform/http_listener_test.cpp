@@ -138,6 +138,18 @@ TEST_F(RealHttpListener, OnlyTheLatestClientIsHeard) {
     EXPECT_TRUE(first.hearsNothing()) << "its place was taken for good";
 }
 
+TEST_F(RealHttpListener, AConnectionInReserveDoesNotSilenceTheRequestBeforeIt) {
+    Client first;
+    Client reserve;
+    first.send(kRequest);
+    EXPECT_TRUE(first.hears(page));
+    EXPECT_TRUE(reserve.hearsNothing());
+    first.send(kRequest);
+    EXPECT_TRUE(first.hearsNothing()) << "only once";
+    reserve.send(kRequest);
+    EXPECT_TRUE(reserve.hears(page));
+}
+
 TEST_F(RealHttpListener, PiecesAreOfAThousandBytesAtMost) {
     Client client;
     EXPECT_TRUE(client.sendAll(QByteArray(999, 'x') + "GET" + QByteArray(2000, 'y')));
@@ -178,6 +190,21 @@ TEST_F(RealHttpListener, GetsThePortAgainRightAfterTheEnd) {
         EXPECT_TRUE(listener.listen(kPort));
         EXPECT_TRUE(client.open());
     }
+}
+
+TEST_F(RealHttpListener, DoesNotHearConnectionsFromBeforeItsStart) {
+    Client spoke;
+    spoke.send(kRequest);
+    EXPECT_TRUE(spoke.hears(page));
+    Client silent;
+    listener.close();
+    EXPECT_TRUE(listener.listen(kPort));
+    spoke.send(kRequest);
+    silent.send(kRequest);
+    EXPECT_TRUE(spoke.hearsNothing());
+    EXPECT_TRUE(silent.hearsNothing());
+    listener.send(page);
+    EXPECT_TRUE(spoke.hearsNothing());
 }
 
 TEST_F(RealHttpListener, AnotherServersPortIsLeftAlone) {
@@ -272,7 +299,7 @@ TEST_F(RealHttpListener, UnheardClientsFillNoMemoryAndTheirEndIsNoticed) {
         const Client next;
         EXPECT_TRUE(client.sendAll(QByteArray(1'000'000, 'x')));
     }
-    EXPECT_EQ(allHeard(), "");
+    EXPECT_LE(allHeard().size(), 20 * 1000) << "a first piece of each";
     EXPECT_TRUE(pumpUntil([&] { return openFiles() == filesBefore; }));
 }
 

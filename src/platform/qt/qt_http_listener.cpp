@@ -13,13 +13,14 @@ bool QtHttpListener::listen(quint16 port) {
 
 void QtHttpListener::close() {
     server_.close();
-    client_ = nullptr;
+    silent_.clear();
+    latest_ = heard_ = nullptr;
 }
 
 void QtHttpListener::send(const QByteArray& bytes) {
     // What a client asks for and never takes must not fill the memory.
-    if (client_ && client_->bytesToWrite() == 0)
-        client_->write(bytes);
+    if (heard_ && heard_->bytesToWrite() == 0)
+        heard_->write(bytes);
 }
 
 void QtHttpListener::accept() {
@@ -28,14 +29,16 @@ void QtHttpListener::accept() {
 }
 
 void QtHttpListener::take(QTcpSocket& socket) {
-    client_ = &socket;
+    latest_ = &socket;
     socket.setReadBufferSize(kMostBytes);
     QObject::connect(&socket, &QTcpSocket::readyRead, &socket, [this, &socket] { read(socket); });
     QObject::connect(&socket, &QTcpSocket::disconnected, &socket, [this, &socket] {
         connections_.removeOne(&socket);
+        silent_.removeOne(&socket);
         socket.deleteLater();
     });
     connections_.append(&socket);
+    silent_.append(&socket);
     if (connections_.size() > kMostConnections)
         connections_.first()->abort();
 }
@@ -43,9 +46,12 @@ void QtHttpListener::take(QTcpSocket& socket) {
 void QtHttpListener::read(QTcpSocket& socket) {
     while (socket.bytesAvailable() > 0) {
         const QByteArray bytes = socket.read(kMostBytes);
+        const bool first = silent_.removeOne(&socket);
         // What the others send is taken as well, or the end of their connections would not be noticed.
-        if (&socket == client_)
-            received(bytes);
+        if (!first && &socket != latest_)
+            continue;
+        heard_ = &socket;
+        received(bytes);
     }
 }
 

@@ -24,8 +24,10 @@ private:
     void read(QTcpSocket& socket);
 
     QList<QTcpSocket*> connections_; ///< the oldest first; children of the server
-    QPointer<QTcpSocket> client_;    ///< the latest
-    QTcpServer server_;              ///< the first to go: its children still leave the list when they end
+    QList<QTcpSocket*> silent_;      ///< those of them that have not sent anything since `listen`
+    QPointer<QTcpSocket> latest_;
+    QPointer<QTcpSocket> heard_;
+    QTcpServer server_; ///< the first to go: its children still leave the lists when they end
 };
 
 } // namespace tarnwell
