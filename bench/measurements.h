@@ -21,6 +21,7 @@ void measureCommandDelay(const FreshProcesses& processes, const Effort& effort, 
 void measureInterpreterSpeed(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measureGameList(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measureQueueOverhead(const FreshProcesses& processes, const Effort& effort, Report& report);
+void measureStatusPages(const FreshProcesses& processes, const Effort& effort, Report& report);
 
 /// The children; `argument` is the part of the effort that concerns them.
 void firstWindow(int argument);
@@ -29,5 +30,6 @@ void commandDelay(int commands);
 void interpreterSpeed(int rounds);
 void gameList(int rounds);
 void queueOverhead(int jobs);
+void statusPages(int rounds);
 
 } // namespace tarnwell::bench
