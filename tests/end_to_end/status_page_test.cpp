@@ -21,7 +21,7 @@ protected:
         user.waitUntilIdle();
     }
     /// Two games in the list, the first with a name that must not be taken for a script, and slow work.
-    void startSlowQueue(User& user) const {
+    void startSlowQueue(User& user, int msPerPercent = 150) const {
         openDisk(user);
         openGuiPage(user);
         user.click("chkStatusServer");
@@ -34,7 +34,7 @@ protected:
             user.click("cmdAddGame");
             user.waitUntilIdle();
         }
-        bench.behave("[inject_cd]\ndelay_ms_per_step = 150\n");
+        bench.behave("[inject_cd]\ndelay_ms_per_step = " + QString::number(msPerPercent) + '\n');
         user.click("optJobQueue");
         user.click("cmdStart");
         user.waitFor("the first percent", [&] { return user.percent("picCurrent") >= 1; });
@@ -152,6 +152,30 @@ TEST_F(StatusPage, TheProgramLeavesTheConnectionOpen) {
         cancel(user);
         EXPECT_FALSE(client.waitForDisconnected(200)) << "after the end of the work too";
     });
+}
+
+TEST_F(StatusPage, NoClientHarmsTheWorkOrTheWindow) {
+    play([&](User& user) {
+        startSlowQueue(user, 20);
+        const QByteArray megabyteOfRequests = QByteArray("GET").repeated(350'000);
+        std::vector<std::unique_ptr<QTcpSocket>> clients;
+        for (int i = 0; i < 200; ++i) {
+            clients.push_back(std::make_unique<QTcpSocket>());
+            clients.back()->connectToHost("127.0.0.1", 80);
+            ASSERT_TRUE(clients.back()->waitForConnected());
+            if (i % 20 == 0)
+                clients.back()->write(megabyteOfRequests); // never to read an answer
+            if (i % 20 == 10)
+                clients.at(clients.size() / 2)->abort();
+        }
+        clients.front()->waitForBytesWritten();
+        EXPECT_TRUE(user.windowUp("frmStatus"));
+        ASSERT_TRUE(curl());
+        user.waitUntilIdle();
+        for (const QString& job : user.rows("lstJob"))
+            EXPECT_TRUE(job.startsWith("Complete")) << job.toStdString();
+    });
+    EXPECT_TRUE(extract("hdd1:", kScriptName) == contents(image));
 }
 
 TEST_F(StatusPage, TheTestOfTheSettingsServesThePageWhileItsBoxIsOpen) {

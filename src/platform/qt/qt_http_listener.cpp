@@ -3,7 +3,6 @@
 namespace tarnwell {
 
 QtHttpListener::QtHttpListener() {
-    server_.setListenBacklogSize(1);
     QObject::connect(&server_, &QTcpServer::newConnection, &server_, [this] { accept(); });
 }
 
