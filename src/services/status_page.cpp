@@ -67,7 +67,7 @@ QByteArray page(const WorkInProgress& work) {
 
 QByteArray BuildStatusPage(const WorkInProgress& work) {
     const QByteArray body = page(work);
-    // The date never changes: nobody is told to keep the page, and no clock is given away.
+    // A fixed date from the past: no copy of the page is ever fresh.
     return "HTTP/1.0 200 OK\r\n"
            "Date: Fri, 31 Dec 1999 23:59:59 GMT\r\n"
            "Content-Type: text/html\r\n"
