@@ -194,8 +194,8 @@ public:
     /// Sends to the client that was heard last; silent if that one has gone. Never waits: nothing is sent as
     /// long as that client has not taken what was sent before.
     virtual void send(const QByteArray& bytes) = 0;
-    /// What a client sent: at most kMostBytes at a time, each piece as it came. Attached by the program before
-    /// `listen`.
+    /// What a client sent: at most kMostBytes at a time, each piece as it came. Attached by the program
+    /// before `listen`.
     std::function<void(const QByteArray& bytes)> received;
     static constexpr int kMostBytes = 1000;
 };

@@ -156,7 +156,7 @@ TEST_F(StatusPage, TheProgramLeavesTheConnectionOpen) {
 
 TEST_F(StatusPage, NoClientHarmsTheWorkOrTheWindow) {
     play([&](User& user) {
-        startSlowQueue(user, 20);
+        startSlowQueue(user, 30);
         const QByteArray megabyteOfRequests = QByteArray("GET").repeated(350'000);
         std::vector<std::unique_ptr<QTcpSocket>> clients;
         for (int i = 0; i < 200; ++i) {
