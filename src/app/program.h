@@ -14,6 +14,7 @@
 #include "queue/sounds.h"
 #include "queue/status_window.h"
 #include "services/about_window.h"
+#include "services/status_server.h"
 #include "settings/appearance.h"
 #include "settings/disk_tools.h"
 #include "settings/settings_window.h"
@@ -60,6 +61,7 @@ private:
     Sounds sounds_;
     JobList jobList_;
     AddGame addGame_;
+    StatusServer statusServer_;
     QueueRunner queueRunner_;
     DeviceSelection deviceSelection_;
     InstallSource installSource_;

@@ -35,6 +35,7 @@ struct Shared {
     bool blnQuerySettings = false;  ///< the next query output fills the cmbHD of frmSettings
     bool blnDiscInfo = false;       ///< the next output answers cdvd_info2
     bool blnReadTOC = false;        ///< the next output answers tarn_toc; its chunks are withheld
+    bool blnServerActive = false;   ///< the status page can be asked for
 
     bool jobRunning() const { return blnQueueRunning || blnInstallRunning; }
     void message(const QString& text, MessageIcon icon = MessageIcon::Exclamation);

@@ -30,9 +30,9 @@ bool reportsProgress(const QString& command) {
 } // namespace
 
 QueueRunner::QueueRunner(Shared& shared, ToolChannel& channel, cStdIO& StdIO, GuiSwitch& guiSwitch,
-                         CompletionActions& completionActions, Sounds& sounds)
+                         CompletionActions& completionActions, Sounds& sounds, StatusServer& statusServer)
     : shared_(shared), channel_(channel), StdIO_(StdIO), guiSwitch_(guiSwitch),
-      completionActions_(completionActions), sounds_(sounds) {
+      completionActions_(completionActions), sounds_(sounds), statusServer_(statusServer) {
     shared_.frmMain.cmdStart.Click = [this] { start(); };
 }
 
@@ -45,7 +45,10 @@ void QueueRunner::start() {
     shared_.blnJobStopped = false;
     shared_.blnInstallRunning = false;
     shared_.lQueueStartTick = shared_.ports.clock.tickCount();
-    runJobs();
+    {
+        const ServerDuringWork server(statusServer_);
+        runJobs();
+    }
     finish();
 }
 
