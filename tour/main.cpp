@@ -1,4 +1,5 @@
 #include "tour/guided_tour.h"
+#include "ui/qt/application_font.h"
 
 #include <QApplication>
 
@@ -33,10 +34,11 @@ QString play(const QDir& pictures) {
 
 int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qputenv("QT_QPA_PLATFORM", TARNWELL_TOUR_PLATFORM);
     qInstallMessageHandler(tellErrorsOnly);
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication application(argc, argv);
+    view::useOwnFont();
     if (argc != 2) {
         std::fputs("usage: tarnwell-tour PICTURE_FOLDER\n", stderr);
         return 2;

@@ -299,7 +299,13 @@ void User::closeWindow(const QString& form) {
 }
 
 void User::bringBack(const QString& form) {
-    look([&] { windowOf(form)->showNormal(); });
+    look([&] {
+        QtTray& tray = program_.ports().tray;
+        if (!windowOf(form)->isVisible() && tray.available())
+            act([&tray] { tray.activated(QSystemTrayIcon::DoubleClick); });
+        else
+            windowOf(form)->showNormal();
+    });
 }
 
 void User::moveAside(const QString& form, const QString& otherForm) {

@@ -55,7 +55,7 @@ public:
     void editLabel(const QString& list, const QString& text);
     /// Presses the close box of a window.
     void closeWindow(const QString& form);
-    /// As with a click in the desktop's list of windows.
+    /// As with a click in the desktop's list of windows, or on the tray icon if only that is left.
     void bringBack(const QString& form);
     /// Drags a window to the lower right corner of another, so that both can be seen.
     void moveAside(const QString& form, const QString& otherForm);

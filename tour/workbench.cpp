@@ -19,11 +19,17 @@ constexpr int kPatienceMs = 60'000;
 
 } // namespace
 
-Workbench::Workbench(const QString& name) : folder_(scratch_.filePath(name)) {
+Workbench::Workbench(const QString& name)
+    : scratch_(QDir::isAbsolutePath(name) ? name + " XXXXXX" : QDir::tempPath() + "/tarnwell-XXXXXX"),
+      folder_(QDir::isAbsolutePath(name) ? scratch_.path() : scratch_.filePath(name)) {
     const QString original = builtProgram("tarnwell.exe");
     if (!QDir().mkpath(folder_) || !QFile::copy(original, tool()))
         fail("Could not copy " + original + " into " + folder_ + '.');
     run({"query"}); // makes the world
+}
+
+QString Workbench::path(const QString& file) const {
+    return QDir::toNativeSeparators(folder_ + '/' + file);
 }
 
 void Workbench::behave(const QString& lines) const {

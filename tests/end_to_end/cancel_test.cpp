@@ -1,4 +1,3 @@
-#include "end_to_end/ticker.h"
 #include "end_to_end/whole_program.h"
 
 namespace tarnwell::test {
@@ -104,40 +103,6 @@ TEST_F(CancelledInstall, TheProgramWaitsForAToolThatTakesItsTime) {
         cancel(user);
         EXPECT_TRUE(bench.log().contains("< done")) << "the tool had not ended";
         EXPECT_EQ(user.rows("lstHD").size(), 4) << "this tool has finished the game all the same";
-    });
-}
-
-TEST_F(CancelledInstall, TheWindowsLiveWhileTheToolTakesItsTime) {
-    Ticker ticker;
-    play([&](User& user) {
-        prepare(user, "delay_ms_per_step = 20\nignore_interrupt = yes\n");
-        waitForPercent(user, 5);
-        user.click("frmStatus.cmdStop");
-        user.look([&] { ticker.start(); });
-        user.click("frmStatus.chkShutdown");
-        user.waitFor("the tick", [&] {
-            return user.look(
-                [&] { return user.program().program().shared().frmStatus->chkShutdown.value == 1; });
-        });
-        EXPECT_TRUE(user.windowUp("frmStatus"));
-        user.waitUntilIdle();
-        EXPECT_TRUE(bench.log().contains("< done")) << "the tool had not ended";
-        EXPECT_GT(ticker.ticks(), 50);
-        EXPECT_LT(ticker.longestWorkMs(), kMostWorkAtATimeMs);
-    });
-}
-
-/// Of a tool that has told 100 percent and takes long to end.
-TEST_F(CancelledInstall, AtOneHundredPercent) {
-    replaceTool("inject_cd", "printf '100%%, 0 min remaining, 9.00 MB/sec\\r'; trap 'exit 1' INT; "
-                             "while :; do sleep 0.1; done");
-    play([&](User& user) {
-        prepare(user, {});
-        waitForPercent(user, 100);
-        cancel(user);
-        EXPECT_FALSE(user.windowUp("frmStatus"));
-        EXPECT_EQ(user.rows("lstHD").size(), 3);
-        EXPECT_TRUE(user.enabled("cmdInstall"));
     });
 }
 

@@ -15,7 +15,8 @@ TEST_F(GameList, AGameOfAConsoleIsRenamedInPlace) {
         EXPECT_EQ(user.rows("lstHD").last(), "Paper Kites 2 | SLUS_990.32 | 0.53GB | CD | +1");
         EXPECT_EQ(user.rows("lstHD").size(), 2);
     });
-    EXPECT_TRUE(bench.run({"tarn_toc", "127.0.0.1"}).contains("Paper Kites 2"));
+    const QString list = bench.run({"tarn_toc", "127.0.0.1"});
+    EXPECT_TRUE(list.contains("Paper Kites 2")) << list.toStdString() << bench.log().toStdString();
 }
 
 TEST_F(GameList, ANewNameThatOnlyDiffersInCaseIsRefused) {

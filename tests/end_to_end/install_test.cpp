@@ -1,3 +1,4 @@
+#include "end_to_end/program_folders.h"
 #include "end_to_end/whole_program.h"
 
 namespace tarnwell::test {
@@ -84,15 +85,18 @@ TEST_F(Install, TheNameAndTheFlagsAreTheUsers) {
     expectGame("hdd1:", "Harvest & Home 2", image);
 }
 
-class InstallFromAFolderWithBlanks : public Install {
+class InstallFromAFolder : public Install, public testing::WithParamInterface<QString> {
 protected:
-    InstallFromAFolderWithBlanks() : Install("my PS2 tools") {}
+    InstallFromAFolder() : Install(GetParam()) {}
 };
 
-TEST_F(InstallFromAFolderWithBlanks, ToolAndImageAreFound) {
+INSTANTIATE_TEST_SUITE_P(, InstallFromAFolder, testing::ValuesIn(programFolders()));
+
+TEST_P(InstallFromAFolder, ToolImageAndSettingsAreFound) {
     const QString image = makeImage("my first game.iso", "");
     play([&](User& user) {
         openDisk(user);
+        user.click("chkOutput");
         pickImage(user, "my first game.iso");
         user.waitUntilIdle();
         EXPECT_EQ(user.text("txtGameStartup"), "SLUS_999.99");
@@ -101,6 +105,7 @@ TEST_F(InstallFromAFolderWithBlanks, ToolAndImageAreFound) {
         user.waitUntilIdle();
         EXPECT_TRUE(user.rows("lstHD").last().startsWith("My first game | SLUS_999.99"));
     });
+    EXPECT_TRUE(contents(bench.path("config.cfg")).contains("ViewOutput=1"));
     expectGame("hdd1:", "My first game", image);
 }
 

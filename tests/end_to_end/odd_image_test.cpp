@@ -55,19 +55,5 @@ TEST_F(OddImage, OneThatHasGoneMeanwhileInstallsNothing) {
     });
 }
 
-TEST_F(OddImage, OneOfNineGigabytesIsADualLayerDvd) {
-    makeImage();
-    ASSERT_TRUE(QFile::resize(bench.path("game.iso"), 9LL << 30)); // takes no room
-    play([&](User& user) {
-        pick(user);
-        EXPECT_EQ(user.text("txtGameSize"), "9.00GB");
-        EXPECT_EQ(user.text("cmbType"), "DVD-ROM");
-        EXPECT_TRUE(user.shown("lblDVD9"));
-        startInstall(user);
-        user.waitUntilIdle();
-        EXPECT_EQ(user.rows("lstHD").last(), "HARVEST | SLUS_999.99 | 9.00GB | DVD | ");
-    });
-}
-
 } // namespace
 } // namespace tarnwell::test

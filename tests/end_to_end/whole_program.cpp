@@ -1,7 +1,8 @@
 #include "end_to_end/whole_program.h"
 
+#include "end_to_end/game_image.h"
+
 #include <QDeadlineTimer>
-#include <QDir>
 #include <QRandomGenerator>
 #include <QThread>
 
@@ -57,12 +58,7 @@ void WholeProgram::waitForPercent(User& user, int percent) {
 }
 
 QString WholeProgram::makeImage(const QString& file, const QString& label) const {
-    const QDir disc(bench.path("disc"));
-    disc.mkpath(".");
-    write(disc.filePath("SYSTEM.CNF"), "BOOT2 = cdrom0:\\SLUS_999.99;1\r\nVER = 1.00\r\nVMODE = NTSC\r\n");
-    write(disc.filePath("SLUS_999.99"), "the game");
-    write(disc.filePath("DATA.BIN"), allKindsOfBytes(kGameBytes));
-    tour::runToEnd("xorriso", {"-as", "mkisofs", "-quiet", "-V", label, "-o", bench.path(file), disc.path()});
+    makeGameImage(bench.path(file), label, "SLUS_999.99", allKindsOfBytes(kGameBytes));
     return bench.path(file);
 }
 

@@ -31,7 +31,8 @@ protected:
     static void startInstall(User& user);
     static void waitForPercent(User& user, int percent);
 
-    /// An image of a game, made by another program. It starts `SLUS_999.99` and holds bytes of all values.
+    /// An image of a game, made by another program where there is one. It starts `SLUS_999.99` and holds
+    /// bytes of all values.
     QString makeImage(const QString& file = "game.iso", const QString& label = "HARVEST") const;
     /// Copies a game from the disk to a file, with the tool alone.
     QByteArray extract(const QString& device, const QString& game) const;

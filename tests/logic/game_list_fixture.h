@@ -77,8 +77,9 @@ protected:
         EXPECT_EQ(balloons(), QStringList("Job added to job queue"));
     }
 
-    static inline const QString kLongName =
-        QString::fromUtf8("P\xc3\xa9rs\xc5\x8dna ").repeated(40) + "\"quoted\"";
+    /// As far as the system's 8-bit code page has its letters: no others come from the tool.
+    static inline const QString kLongName = QString::fromLocal8Bit(
+        (QString::fromUtf8("P\xc3\xa9rs\xc5\x8dna ").repeated(40) + "\"quoted\"").toLocal8Bit());
 
 private:
     qsizetype commandsBefore_ = 0;

@@ -73,8 +73,10 @@ TEST_F(StdIOTest, ALineCanBeSplitBetweenTwoReads) {
 }
 
 TEST_F(StdIOTest, ACharacterThatIsSplitBetweenTwoReadsSurvives) {
-    program({.output = {{"Pok\xc3", 0}, {"\xa9mon", 100}}, .endsAtMs = 200});
-    EXPECT_EQ(StdIO.ExecuteCommand("tool"), QString::fromUtf8("Pok\xc3\xa9mon"));
+    const QString text = QString::fromUtf8("Pok\xc3\xa9mon");
+    const QByteArray bytes = text.toLocal8Bit();
+    program({.output = {{bytes.first(4), 0}, {bytes.sliced(4), 100}}, .endsAtMs = 200});
+    EXPECT_EQ(StdIO.ExecuteCommand("tool"), text);
 }
 
 TEST_F(StdIOTest, BytesThatAreNoTextDoNoHarm) {

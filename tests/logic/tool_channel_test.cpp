@@ -24,7 +24,7 @@ TEST_F(ToolChannelTest, ACommandGoesBehindTheUnquotedPathOfTheTool) {
     ports.folders.folder = path("a folder with blanks");
     ports.launcher.on("query", QByteArray("answer"));
     EXPECT_EQ(channel.Tarn_Command("query"), "answer");
-    EXPECT_EQ(ports.launcher.commandLines(), QStringList(ports.folders.folder + "/tarnwell.exe query"));
+    EXPECT_EQ(ports.launcher.commandLines(), QStringList(ports.folders.folder + QDir::separator() + "tarnwell.exe query"));
     EXPECT_EQ(frmMain.txtCommand.text.get(), "query");
 }
 

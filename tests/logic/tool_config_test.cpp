@@ -293,8 +293,11 @@ TEST_F(ToolConfigFile, AFolderThatVanishesBeforeTheSaveIsToldAndTheWindowCloses)
 
 TEST_F(ToolConfigFile, AFileThatCannotBeReplacedIsToldAndTheWindowStays) {
     const QString fixed = QStringLiteral("/proc/version"); // nobody can write there, whatever the account
-    if (!QFile::link(fixed, conf()) || !QFile::exists(conf()))
-        GTEST_SKIP() << "there is no such file here";
+    QFile held(conf());
+    if (!QFile::link(fixed, conf()) || !QFileInfo(conf()).isSymbolicLink()) {
+        QFile::remove(conf());
+        ASSERT_TRUE(held.open(QFile::ReadWrite)); // Windows replaces no file that someone has open
+    }
     startAndOpen();
     ui::type(frmSettings->txtTargetkbps, "1");
     saveAndExit();

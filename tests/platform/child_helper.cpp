@@ -1,6 +1,8 @@
 /// A console program that behaves in every way that the tests of the child process need. It uses nothing but
 /// the system, so that what it does is what it says.
 
+#include "platform/child_system.h"
+
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -11,7 +13,8 @@
 namespace {
 
 void print(const char* text) {
-    [[maybe_unused]] const ssize_t written = ::write(STDOUT_FILENO, text, std::strlen(text));
+    [[maybe_unused]] const ssize_t written =
+        ::write(STDOUT_FILENO, text, static_cast<unsigned>(std::strlen(text)));
 }
 
 void printBytes(std::size_t count) {
@@ -24,8 +27,7 @@ int echoInput() {
     char bytes[4096];
     ssize_t count = 0;
     while ((count = ::read(STDIN_FILENO, bytes, sizeof bytes)) > 0) {
-        [[maybe_unused]] const ssize_t written =
-            ::write(STDOUT_FILENO, bytes, static_cast<std::size_t>(count));
+        [[maybe_unused]] const ssize_t written = ::write(STDOUT_FILENO, bytes, static_cast<unsigned>(count));
     }
     return 0;
 }
@@ -35,19 +37,10 @@ void sayFarewell(int) {
     ::_exit(3);
 }
 
-int hang() {
-    for (;;) {
-        ::pause();
-    }
-}
-
 /// Leaves a file behind when it has outlived its parent and has tried to print to it.
 int outlive(const char* markPath) {
-    const pid_t parent = ::getppid();
     print("ready\n");
-    for (int i = 0; i < 2000 && ::getppid() == parent; ++i) {
-        ::usleep(5000);
-    }
+    child::waitForParentsEnd();
     print("a line that nobody reads\n");
     if (std::FILE* const mark = std::fopen(markPath, "w")) {
         std::fclose(mark);
@@ -67,6 +60,7 @@ int floodAndMark(const char* markPath) {
 } // namespace
 
 int main(int argc, char** argv) {
+    child::prepare();
     const std::string act = argc > 1 ? argv[1] : "";
     const char* const argument = argc > 2 ? argv[2] : "0";
     if (act == "bytes") {
@@ -81,18 +75,18 @@ int main(int argc, char** argv) {
     }
     if (act == "half-line") {
         print("half a");
-        return hang();
+        child::hang();
     }
     if (act == "exit") {
         return std::atoi(argument);
     }
     if (act == "hang") {
         print("ready\n");
-        return hang();
+        child::hang();
     }
     if (act == "crash") {
         print("before the crash\n");
-        return ::raise(SIGKILL); // the one crash that never leaves a core file behind
+        child::crash();
     }
     if (act == "both-streams") {
         print("1 out\n");
@@ -104,18 +98,18 @@ int main(int argc, char** argv) {
     if (act == "farewell") {
         ::signal(SIGINT, sayFarewell);
         print("ready\n");
-        return hang();
+        child::hang();
     }
     if (act == "deaf") {
         ::signal(SIGINT, SIG_IGN);
         print("ready\n");
-        return hang();
+        child::hang();
     }
     if (act == "close-output") {
         print("last words\n");
         ::close(STDOUT_FILENO);
         ::close(STDERR_FILENO);
-        return hang();
+        child::hang();
     }
     if (act == "split-character") {
         print("\xC3");
@@ -132,8 +126,8 @@ int main(int argc, char** argv) {
         std::printf("%s\n%s\n", ::getcwd(folder, sizeof folder), mark != nullptr ? mark : "");
         return 0;
     }
-    if (act == "session") {
-        std::printf("%d\n", ::getsid(0) == ::getpid() ? 1 : 0);
+    if (act == "stands-alone") {
+        std::printf("%d\n", child::standsAlone() ? 1 : 0);
         return 0;
     }
     if (act == "outlive") {

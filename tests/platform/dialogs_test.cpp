@@ -162,7 +162,7 @@ TEST_F(DialogsTest, AMessageBelongsToTheWindowThatTheUserIsAt) {
     QWidget window;
     window.show();
     window.activateWindow();
-    ASSERT_TRUE(test::pumpUntil([&] { return window.isActiveWindow(); }));
+    ASSERT_TRUE(test::pumpUntil([&] { return QApplication::activeWindow() == &window; }));
     whenOpen<QMessageBox>([&](QMessageBox& box) {
         EXPECT_EQ(box.parentWidget(), &window);
         box.accept();
@@ -288,6 +288,8 @@ protected:
         return {"Select Image", "Images|*.iso|All Files (*.*)|*.*|", folder_.path(), true};
     }
 
+    QString whole(const QString& name) const { return test::native(folder_.filePath(name)); }
+
     QTemporaryDir folder_;
 };
 
@@ -304,7 +306,7 @@ TEST_F(OpenFileTest, ShowsWhatWasAskedFor) {
 
 TEST_F(OpenFileTest, GivesThePathOfTheChosenFile) {
     type(folder_.filePath("game.iso"));
-    EXPECT_EQ(dialogs_.openFile(request()), folder_.filePath("game.iso"));
+    EXPECT_EQ(dialogs_.openFile(request()), whole("game.iso"));
 }
 
 TEST_F(OpenFileTest, AFileThatMustExistIsInsistedOn) {
@@ -316,7 +318,7 @@ TEST_F(OpenFileTest, AFileThatNeedNotExistMayBeNamed) {
     OpenFileRequest lenient = request();
     lenient.mustExist = false;
     type(folder_.filePath("missing.iso"));
-    EXPECT_EQ(dialogs_.openFile(lenient), folder_.filePath("missing.iso"));
+    EXPECT_EQ(dialogs_.openFile(lenient), whole("missing.iso"));
 }
 
 TEST_F(OpenFileTest, AskingForNothingInParticularOpensThePlatformsOwnDialog) {
@@ -337,8 +339,6 @@ protected:
                 .extension = "*.iso",
                 .askBeforeOverwriting = true};
     }
-    QString whole(const QString& name) const { return QDir::toNativeSeparators(folder_.filePath(name)); }
-
     /// Takes what the dialog proposes; answers its question, if there is one.
     void accept(QMessageBox::StandardButton answer) {
         whenOpen<QFileDialog>([answer](QFileDialog& dialog) {

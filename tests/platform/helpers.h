@@ -5,7 +5,9 @@
 #include "platform/qt/qt_process_launcher.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QElapsedTimer>
+#include <QStandardPaths>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -17,11 +19,16 @@ constexpr int kPatienceMs = 10'000;
 
 /// A program that was built beside the tests.
 inline QString builtProgram(const char* name) {
-    return QCoreApplication::applicationDirPath() + u'/' + QString::fromLatin1(name);
+    return QStandardPaths::findExecutable(name, {QCoreApplication::applicationDirPath()});
+}
+
+/// A path as the user would see it.
+inline QString native(const QString& path) {
+    return QDir::toNativeSeparators(path);
 }
 
 inline QString childCommand(const QString& act) {
-    return builtProgram("child_helper") + u' ' + act;
+    return native(builtProgram("child_helper")) + u' ' + act;
 }
 
 inline std::unique_ptr<ChildProcess> startChild(const QString& act) {

@@ -1,5 +1,5 @@
-/// Small programs on the real ports, for what cannot be seen from inside one program: how children fare when
-/// it ends, which command switches the machine off, what goes over the network.
+/// Small programs on the real ports, for what cannot be seen from inside one program: which command switches
+/// the machine off, what goes over the network.
 
 #include "platform/helpers.h"
 #include "platform/network_namespace.h"
@@ -16,19 +16,7 @@
 namespace tarnwell {
 namespace {
 
-constexpr int kFailed = 1;
 constexpr int kWrongUse = 2;
-
-int endWithChild(const QString& command, bool drop) {
-    auto child = QtProcessLauncher().start(command);
-    if (!child || !test::readUntil(*child, "ready\n")) {
-        return kFailed;
-    }
-    if (drop) {
-        child.reset();
-    }
-    return 0;
-}
 
 /// Runs the default command only if nothing but the given folder can provide it.
 int power(const QString& act, const QString& onlyFolder) {
@@ -72,9 +60,6 @@ int status(const QString& address) {
 
 int run(const QStringList& arguments) {
     const QString act = arguments.value(1);
-    if (act == "drop-child-and-end" || act == "end-with-child") {
-        return endWithChild(arguments.value(2), act == "drop-child-and-end");
-    }
     if (act == "stand-by" || act == "shut-down") {
         return power(act, arguments.value(2));
     }

@@ -1,7 +1,6 @@
 #include "simulator/tool_runner.h"
 
 #include <gmock/gmock.h>
-#include <sys/stat.h>
 
 namespace {
 
@@ -20,13 +19,6 @@ std::vector<std::string> linesOf(const std::string& text) {
     if (at < text.size())
         lines.push_back(text.substr(at));
     return lines;
-}
-
-/// What a file really takes of the disk.
-std::uint64_t roomOf(const fs::path& file) {
-    struct stat facts {};
-    EXPECT_EQ(stat(file.c_str(), &facts), 0);
-    return static_cast<std::uint64_t>(facts.st_blocks) * 512;
 }
 
 TEST_F(Copying, ProgressGoesFromZeroToHundredInLinesEndedByACarriageReturn) {

@@ -112,15 +112,4 @@ TEST_F(Failures, WhatNoTableOrDriveCanHoldIsUnsupported) {
     expectFailure({"dump", "hdd1:", "x.iso"}, "Input or output is unsupported.");
 }
 
-TEST_F(Failures, AFullDiskOfThePcLeavesNoHalfImage) {
-    const Result result = runProgram(
-        "/bin/sh", {"-c", "trap '' XFSZ; ulimit -f 64; exec ./tarnwell.exe extract hdd1: Game x.iso"},
-        folder());
-    EXPECT_NE(result.text.find("x.iso: There is not enough space on the disk.\r\n"), std::string::npos)
-        << result.text;
-    EXPECT_EQ(result.text.find("100%"), std::string::npos);
-    EXPECT_EQ(result.exitCode, 1);
-    EXPECT_FALSE(fs::exists(folder() / "x.iso"));
-}
-
 } // namespace

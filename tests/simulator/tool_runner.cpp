@@ -2,16 +2,10 @@
 
 #include "simulator/key_value_file.h"
 
-#include <csignal>
-#include <cstdlib>
-#include <fcntl.h>
 #include <fstream>
 #include <iterator>
-#include <poll.h>
-#include <spawn.h>
-#include <sys/wait.h>
+#include <random>
 #include <thread>
-#include <unistd.h>
 
 namespace fs = std::filesystem;
 using namespace std::chrono_literals;
@@ -21,69 +15,34 @@ namespace {
 /// No program in these tests takes longer; one that does is killed, and the test fails.
 constexpr auto kPatience = 20s;
 
-std::string uniqueFolderName() {
-    std::string pattern = (fs::temp_directory_path() / "simulated-tool-XXXXXX").string();
-    return mkdtemp(pattern.data());
+fs::path newFolder() {
+    std::random_device random;
+    for (;;) {
+        fs::path folder = fs::temp_directory_path() / ("simulated-tool-" + std::to_string(random()));
+        if (fs::create_directory(folder))
+            return folder;
+    }
 }
 
 } // namespace
 
-RunningTool::RunningTool(const fs::path& program, const Words& arguments, const fs::path& workingFolder) {
-    int ends[2] = {-1, -1};
-    if (pipe2(ends, O_CLOEXEC) != 0)
-        throw std::runtime_error("no pipe");
-    posix_spawn_file_actions_t actions;
-    posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_adddup2(&actions, ends[1], STDOUT_FILENO);
-    posix_spawn_file_actions_adddup2(&actions, ends[1], STDERR_FILENO);
-    posix_spawn_file_actions_addchdir_np(&actions, workingFolder.c_str());
-    Words words = arguments;
-    words.insert(words.begin(), program.string());
-    std::vector<char*> argv;
-    for (std::string& word : words)
-        argv.push_back(word.data());
-    argv.push_back(nullptr);
-    const int error = posix_spawn(&process_, program.c_str(), &actions, nullptr, argv.data(), environ);
-    posix_spawn_file_actions_destroy(&actions);
-    close(ends[1]);
-    pipe_ = ends[0];
-    if (error != 0)
-        process_ = -1;
-}
-
 RunningTool::~RunningTool() {
-    if (process_ > 0) {
+    if (process_ != kNone) {
         kill();
         wait();
     }
     closePipe();
 }
 
-void RunningTool::interrupt() const {
-    ::kill(process_, SIGINT);
-}
-
-void RunningTool::kill() const {
-    ::kill(process_, SIGKILL);
-}
-
-void RunningTool::closePipe() {
-    if (pipe_ >= 0)
-        close(pipe_);
-    pipe_ = -1;
-}
-
 std::string RunningTool::readSome() {
-    pollfd wanted{pipe_, POLLIN, 0};
-    if (poll(&wanted, 1, static_cast<int>(std::chrono::milliseconds(kPatience).count())) == 0) {
+    std::optional<std::string> piece = receive(kPatience);
+    if (!piece) {
         ADD_FAILURE() << "The tool says nothing and does not end";
         kill();
+        piece = receive(kPatience);
     }
-    char buffer[4096];
-    const ssize_t got = ::read(pipe_, buffer, sizeof buffer);
-    std::string piece(buffer, got > 0 ? static_cast<std::size_t>(got) : 0);
-    text_ += piece;
-    return piece;
+    text_ += piece.value_or("");
+    return piece.value_or("");
 }
 
 bool RunningTool::readUntil(const std::string& part) {
@@ -95,19 +54,10 @@ bool RunningTool::readUntil(const std::string& part) {
 }
 
 Result RunningTool::finish() {
-    while (pipe_ >= 0 && !readSome().empty()) {
+    while (pipe_ != kNone && !readSome().empty()) {
     }
     wait();
     return {text_, exitCode_};
-}
-
-bool RunningTool::running() {
-    int status = 0;
-    if (process_ > 0 && waitpid(process_, &status, WNOHANG) == process_) {
-        exitCode_ = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-        process_ = -1;
-    }
-    return process_ > 0;
 }
 
 void RunningTool::wait() {
@@ -125,7 +75,7 @@ Result runProgram(const fs::path& program, const Words& arguments, const fs::pat
     return RunningTool(program, arguments, workingFolder).finish();
 }
 
-ScratchFolder::ScratchFolder() : path_(uniqueFolderName()) {}
+ScratchFolder::ScratchFolder() : path_(newFolder()) {}
 
 ScratchFolder::~ScratchFolder() {
     std::error_code ignored;

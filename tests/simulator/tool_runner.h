@@ -5,8 +5,10 @@
 #include "simulator/iso9660_writer.h"
 
 #include <chrono>
+#include <cstdint>
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,7 +19,8 @@ struct Result {
     int exitCode = -1;
 };
 
-/// A running program. Whatever goes wrong, it is gone when this is.
+/// A running program. Whatever goes wrong, it is gone when this is. What systems do differently is in
+/// tool_runner_posix.cpp and tool_runner_windows.cpp.
 class RunningTool {
 public:
     RunningTool(const std::filesystem::path& program, const Words& arguments,
@@ -39,16 +42,24 @@ public:
     bool running();
 
 private:
-    void wait();
+    static constexpr std::intptr_t kNone = -1;
 
-    int process_ = -1;
-    int pipe_ = -1;
+    void wait();
+    /// What arrives next, empty at the end. Nothing if nothing comes in time.
+    std::optional<std::string> receive(std::chrono::milliseconds patience);
+
+    // As the system knows them.
+    std::intptr_t process_ = kNone;
+    std::intptr_t pipe_ = kNone;
     int exitCode_ = -1;
     std::string text_;
 };
 
 Result runProgram(const std::filesystem::path& program, const Words& arguments,
                   const std::filesystem::path& workingFolder);
+
+/// What a file really takes of the disk, in bytes.
+std::uint64_t roomOf(const std::filesystem::path& file);
 
 /// A folder of its own, removed at the end.
 class ScratchFolder {

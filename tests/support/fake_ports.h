@@ -263,9 +263,11 @@ class FakeSystemFolders : public SystemFolders {
     const QTemporaryDir temporary_;
 
 public:
-    QString folder = temporary_.path(); ///< at first a temporary folder that goes with the test
+    /// At first a temporary folder that goes with the test.
+    QString folder = QDir::toNativeSeparators(temporary_.path());
 
-    QString data = folder + "/data"; ///< the user's folder for settings; at first there and empty
+    QString data =
+        folder + QDir::separator() + "data"; ///< the user's folder for settings; at first there and empty
     std::optional<WindowsProfile> profile;
 
     FakeSystemFolders() { QDir().mkpath(data); }

@@ -20,7 +20,7 @@ protected:
 
     void putTool() { writeFile("tarnwell.exe", "the simulated tool"); }
     void removeTool() { QFile::remove(path("tarnwell.exe")); }
-    QString path(const QString& name) const { return ports.folders.folder + '/' + name; }
+    QString path(const QString& name) const { return ports.folders.folder + QDir::separator() + name; }
     void writeFile(const QString& name, const QByteArray& bytes) {
         QFile file(path(name));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));

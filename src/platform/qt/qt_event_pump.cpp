@@ -1,8 +1,9 @@
 #include "platform/qt/qt_event_pump.h"
 
 #include <QAbstractEventDispatcher>
+#include <QApplication>
 #include <QDeadlineTimer>
-#include <QGuiApplication>
+#include <QDialog>
 #include <QTimer>
 
 #include <algorithm>
@@ -14,28 +15,15 @@ namespace {
 /// A program that always has something pending (a timer of 0 ms) must not hold the caller of `pump`.
 constexpr int kLongestPumpMs = 20;
 
-/// Sleeps until an event comes, at the latest for the given time, and serves what has come. User input is
-/// never left out: it would only be kept and replayed to the wrong state, and Cancel would freeze.
-void sleepAndServe(int milliseconds) {
-    QTimer alarm;
-    // An event handler may wait as well and use up the alarm meant for this wait; so the alarm repeats.
-    alarm.setTimerType(Qt::PreciseTimer);
-    alarm.start(milliseconds);
-    QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
-}
-
 } // namespace
 
 QtEventPump::QtEventPump() {
-    QGuiApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setQuitOnLastWindowClosed(false);
 }
 
 void QtEventPump::pump() {
     throwIfEnded();
-    const QDeadlineTimer limit(kLongestPumpMs);
-    auto* const queue = QAbstractEventDispatcher::instance();
-    while (queue->processEvents(QEventLoop::AllEvents) && !ended_ && !limit.hasExpired()) {
-    }
+    servePending();
     throwIfEnded();
 }
 
@@ -56,12 +44,39 @@ void QtEventPump::waitForEvent(int milliseconds) {
 
 void QtEventPump::end() {
     ended_ = true;
+    // A dialog of the system's own would not hear of the exit.
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+        if (auto* const dialog = qobject_cast<QDialog*>(window); dialog != nullptr && dialog->isVisible())
+            dialog->reject();
+    }
     // Not quit(): that would ask the windows, and one that refuses to close would cancel the end.
     QCoreApplication::exit();
 }
 
 int QtEventPump::run() {
     return ended_ ? 0 : QCoreApplication::exec();
+}
+
+void QtEventPump::servePending() const {
+    const QDeadlineTimer limit(kLongestPumpMs);
+    auto* const queue = QAbstractEventDispatcher::instance();
+    // On Windows the answer of the first round may be no more than that some loop before it was ended.
+    queue->processEvents(QEventLoop::AllEvents);
+    while (!ended_ && queue->processEvents(QEventLoop::AllEvents) && !limit.hasExpired()) {
+    }
+}
+
+void QtEventPump::sleepAndServe(int milliseconds) const {
+    {
+        QTimer alarm;
+        // An event handler may wait as well and use up the alarm meant for this wait; so the alarm repeats.
+        alarm.setTimerType(Qt::PreciseTimer);
+        alarm.start(milliseconds);
+        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+    }
+    // On Windows the sleep may have ended by the mere notice of an event. Who sleeps again gets no second
+    // one.
+    servePending();
 }
 
 void QtEventPump::throwIfEnded() const {

@@ -23,6 +23,11 @@ public:
     void throwIfEnded() const;
 
 private:
+    void servePending() const;
+    /// Sleeps until an event comes, at the latest for the given time, and serves what has come. User input is
+    /// never left out: it would only be kept and replayed to the wrong state, and Cancel would freeze.
+    void sleepAndServe(int milliseconds) const;
+
     bool ended_ = false;
 };
 

@@ -1,0 +1,8 @@
+#include "ui/qt/application_font.h"
+
+#include <QApplication>
+
+void tarnwell::view::useOwnFont() {
+    constexpr int kPoints = 8;
+    QApplication::setFont(QFont(QStringLiteral("Tahoma"), kPoints));
+}

@@ -1,0 +1,68 @@
+#!/bin/sh
+# Looks at the packed program as someone who has downloaded it: check_package.sh BUILD_FOLDER ZIP_FILE. Wants Wine and a
+# display; prints what is wrong.
+set -eu
+here=$(cd "$(dirname "$0")" && pwd)
+build=$1
+zip=$2
+largest_program=$((20 * 1024 * 1024))
+systems_own=/usr/lib/x86_64-linux-gnu/wine/x86_64-windows
+
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+wrong=0
+complain() {
+    echo "$*"
+    wrong=1
+}
+inspect() { x86_64-w64-mingw32-objdump -p "$1"; }
+
+again=$scratch/$(basename "$zip")
+"$here/package.sh" "$build" "$again"
+cmp "$zip" "$again" || complain 'Packed twice, two files.'
+
+unzip -q "$zip" -d "$scratch/Program Files"
+folder="$scratch/Program Files/$(basename "$zip" .zip)"
+program=$folder/tarnwell-gui.exe
+
+for file in tarnwell-gui.exe README.txt LICENSE.txt demo/tarnwell.exe demo/tarnwell-samples.exe demo/start-demo.cmd \
+    licences/README.txt licences/LGPL-3.txt licences/GPL-3.txt licences/Qt.txt licences/GCC.txt licences/mingw-w64.txt; do
+    [ -s "$folder/$file" ] || complain "$file is missing."
+done
+[ "$(find "$folder" -type f | wc -l)" = 12 ] || complain 'There is more in the package than there should be.'
+
+[ "$(stat -c %s "$program")" -le "$largest_program" ] || complain 'The program has grown too large.'
+for exe in "$folder"/*.exe "$folder"/demo/*.exe; do
+    inspect "$exe" | sed -n 's/.*DLL Name: //p' | tr '[:upper:]' '[:lower:]' | while read -r library; do
+        [ -f "$systems_own/$library" ] || [ "${library#api-ms-win-}" != "$library" ] || echo "$(basename "$exe") needs $library, which is not part of Windows."
+    done
+done >"$scratch/libraries"
+[ ! -s "$scratch/libraries" ] || complain "$(cat "$scratch/libraries")"
+
+inspect "$program" | grep -q '(Windows GUI)' || complain 'The program opens a console.'
+for part in Common-Controls PerMonitorV2 asInvoker; do
+    grep -q "$part" "$program" || complain "The manifest does not name $part."
+done
+! grep -q activeCodePage "$program" || complain 'The manifest sets a code page of its own.'
+wrestool --list "$program" | grep -q 'type=14' || complain 'The program has no icon.'
+wrestool --list "$program" | grep -q 'type=16' || complain 'The program tells no version.'
+! grep -qF "$(dirname "$here")" "$program" || complain 'The program names the folder that it was built in.'
+
+# A user's first double click: the program comes up, finds the samples made, and ends when its window is closed.
+wait_for() {
+    tries=0
+    until "$@"; do
+        tries=$((tries + 1))
+        [ "$tries" -le 300 ] || return 1
+        sleep 0.1
+    done
+}
+running() { "$here/wine.sh" tasklist 2>/dev/null | grep -q tarnwell-gui; }
+gone() { ! running; }
+"$here/wine.sh" cmd /c "$folder/demo/start-demo.cmd" >/dev/null 2>&1 || complain 'start-demo.cmd fails.'
+wait_for test -f "$folder/demo/config.cfg" || complain 'The program does not come up.'
+[ -f "$folder/demo/samples/cd-game.iso" ] || complain 'There are no sample images.'
+"$here/wine.sh" taskkill /im tarnwell-gui.exe >/dev/null 2>&1
+wait_for gone || complain 'The program does not end when its window is closed.'
+
+exit "$wrong"
