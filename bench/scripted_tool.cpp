@@ -3,6 +3,8 @@
 ///   farewell MILLISECONDS               lives so long, prints the time in nanoseconds, and is gone
 ///   extract MILLISECONDS                lives so long, is a job that succeeds, and notes its start and its
 ///                                       end, in nanoseconds, in the file `stamps` beside it
+///   extract work                        the same with always the same work: a hundred times a wait, as for a
+///                                       disk, and some computing
 
 #include <chrono>
 #include <cstdio>
@@ -30,13 +32,9 @@ static void farewell(int milliseconds) {
     std::_Exit(0);
 }
 
-static void extract(const char* program, int milliseconds) {
-    const auto start = Clock::now();
-    std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
-    std::printf("100%%, 0 min remaining, 9.00 MB/sec\r");
-    std::fflush(stdout);
-    const std::string path = program;
-    std::FILE* const stamps = std::fopen((path.substr(0, path.rfind('/') + 1) + "stamps").c_str(), "a");
+/// Notes the time since `start`, and is gone.
+[[noreturn]] static void stamp(const std::string& program, Clock::time_point start) {
+    std::FILE* const stamps = std::fopen((program.substr(0, program.rfind('/') + 1) + "stamps").c_str(), "a");
     if (!stamps)
         std::_Exit(1);
     std::fprintf(stamps, "%lld %lld\n", static_cast<long long>(start.time_since_epoch().count()),
@@ -45,11 +43,36 @@ static void extract(const char* program, int milliseconds) {
     std::_Exit(0);
 }
 
+static void extract(const char* program, int milliseconds) {
+    const auto start = Clock::now();
+    std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+    std::printf("100%%, 0 min remaining, 9.00 MB/sec\r");
+    std::fflush(stdout);
+    stamp(program, start);
+}
+
+static void work(const char* program) {
+    constexpr auto kWait = std::chrono::milliseconds(5);
+    constexpr int kRoundsPerPercent = 500'000;
+    const auto start = Clock::now();
+    volatile unsigned sum = 0;
+    for (int percent = 1; percent <= 100; ++percent) {
+        std::this_thread::sleep_for(kWait);
+        for (int i = 0; i < kRoundsPerPercent; ++i)
+            sum = sum * 31 + static_cast<unsigned>(i);
+        std::printf("%3d%%, 1 min remaining, 9.00 MB/sec\r", percent);
+        std::fflush(stdout);
+    }
+    stamp(program, start);
+}
+
 int main(int argc, char** argv) {
     if (argc == 4 && argv[1] == std::string_view("progress"))
         progress(std::atoi(argv[2]), std::atoi(argv[3]));
     else if (argc == 3 && argv[1] == std::string_view("farewell"))
         farewell(std::atoi(argv[2]));
+    else if (argc == 3 && argv[1] == std::string_view("extract") && argv[2] == std::string_view("work"))
+        work(argv[0]);
     else if (argc == 3 && argv[1] == std::string_view("extract"))
         extract(argv[0], std::atoi(argv[2]));
     else

@@ -44,6 +44,7 @@ void GuidedTour::play() {
     completeQueue();
     lookAtSettings();
     changeLook();
+    lookAtAbout();
 }
 
 void GuidedTour::readConsole() {
@@ -218,6 +219,16 @@ void GuidedTour::changeLook() {
     user_.click("cmdExitNoSave");
     user_.waitFor("the settings window to close", [this] { return !user_.windowUp("frmSettings"); });
     tell("main-own-look", "The main window has grown with its font.");
+}
+
+void GuidedTour::lookAtAbout() {
+    user_.click("cmdAbout");
+    user_.waitFor("the about window", [this] { return user_.windowUp("frmAbout"); });
+    user_.waitUntilIdle();
+    expect(user_.text("frmAbout.Label2") == "v1.5", "the version of the program");
+    tell("about", "About: the version, links to web pages, and thanks that have typed themselves.");
+    user_.closeWindow("frmAbout");
+    user_.waitFor("the about window to close", [this] { return !user_.windowUp("frmAbout"); });
 }
 
 void GuidedTour::waitForHalfOfJob(int job) {

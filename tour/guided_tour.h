@@ -30,6 +30,7 @@ private:
     void completeQueue();
     void lookAtSettings();
     void changeLook();
+    void lookAtAbout();
 
     void queueInstall();
     void queueMakeIso();

@@ -15,8 +15,10 @@ DesktopProgram::DesktopProgram(const QtSystemFolders& folders)
           view::applicationIcon(), [this] { return mainWindow_.currentScale().pixelsPerTwip(); }, folders),
       program_(ports_.ports()), mainWindow_(program_.shared().frmMain),
       settingsWindow_(program_.shared().frmSettings.untouched()),
-      statusWindow_(program_.shared().frmStatus.untouched()) {
+      statusWindow_(program_.shared().frmStatus.untouched()),
+      aboutWindow_(program_.shared().frmAbout.untouched()) {
     giveIconOnceShown();
+    ports_.tray.makeMenu = [this] { return &mainWindow_.menu(program_.shared().frmMain.mnuSystray); };
     mainWindow_.hideMinimises = !ports_.tray.available();
     mainWindow_.restored = [this] { program_.hideAndRestore().restore(); };
 }

@@ -2,6 +2,7 @@
 
 #include "app/program.h"
 #include "platform/desktop_ports.h"
+#include "ui/qt/about_window_view.h"
 #include "ui/qt/main_window_view.h"
 #include "ui/qt/settings_window_view.h"
 #include "ui/qt/status_window_view.h"
@@ -22,6 +23,7 @@ public:
     view::MainWindowView& mainWindow() { return mainWindow_; }
     view::SettingsWindowView& settingsWindow() { return settingsWindow_; }
     view::StatusWindowView& statusWindow() { return statusWindow_; }
+    view::AboutWindowView& aboutWindow() { return aboutWindow_; }
 
 private:
     void giveIconOnceShown();
@@ -31,6 +33,7 @@ private:
     view::MainWindowView mainWindow_;
     view::SettingsWindowView settingsWindow_;
     view::StatusWindowView statusWindow_;
+    view::AboutWindowView aboutWindow_;
 };
 
 } // namespace tarnwell

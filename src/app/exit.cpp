@@ -14,6 +14,7 @@ Exit::Exit(Shared& shared, cStdIO& StdIO) : shared_(shared), StdIO_(StdIO) {
 void Exit::exitProgram() {
     turnConsoleOff();
     TrayRemove(shared_.ports.tray);
+    shared_.frmAbout.untouched().unload();
     shared_.frmSettings.untouched().unload();
     shared_.frmStatus.untouched().unload();
     // The window's own Unload comes back here once more, and that second pass ends the program.

@@ -23,18 +23,20 @@ Program::Program(const Ports& ports)
       channel_(shared_, StdIO_, interpreter_), guiSwitch_(shared_.frmMain), navigation_(shared_),
       hideAndRestore_(shared_), exit_(shared_, StdIO_), statusWindow_(shared_, StdIO_),
       completionActions_(shared_, channel_), sounds_(shared_), jobList_(shared_), addGame_(shared_, jobList_),
-      queueRunner_(shared_, channel_, StdIO_, guiSwitch_, completionActions_, sounds_),
+      statusServer_(shared_),
+      queueRunner_(shared_, channel_, StdIO_, guiSwitch_, completionActions_, sounds_, statusServer_),
       deviceSelection_(shared_, channel_, interpreter_), installSource_(shared_, channel_, interpreter_),
-      installNow_(shared_, channel_, StdIO_, guiSwitch_, completionActions_), makeIso_(shared_, jobList_),
-      copyGames_(shared_, jobList_), deleteGames_(shared_, channel_, jobList_),
-      renameGame_(shared_, channel_), exportGameList_(shared_), appearance_(shared_),
+      installNow_(shared_, channel_, StdIO_, guiSwitch_, completionActions_, statusServer_),
+      makeIso_(shared_, jobList_), copyGames_(shared_, jobList_), deleteGames_(shared_, channel_, jobList_),
+      renameGame_(shared_, channel_, guiSwitch_), exportGameList_(shared_), appearance_(shared_),
       diskTools_(shared_, channel_, interpreter_, guiSwitch_), toolConfig_(shared_),
       dataFolder_(shared_, toolConfig_), guiSettings_(shared_, dataFolder_, sounds_, appearance_),
-      settingsWindow_(shared_, guiSettings_, dataFolder_, toolConfig_) {
+      settingsWindow_(shared_, guiSettings_, dataFolder_, toolConfig_), aboutWindow_(shared_) {
     const auto dispatch = [this](const std::function<void()>& handler) { dispatcher_.dispatch(handler); };
     shared_.frmMain.dispatcher = dispatch;
     shared_.frmSettings.untouched().dispatcher = dispatch;
     shared_.frmStatus.untouched().dispatcher = dispatch;
+    shared_.frmAbout.untouched().dispatcher = dispatch;
     shared_.frmMain.Load = [this] { loadMain(); };
 }
 

@@ -13,6 +13,8 @@
 #include "queue/queue_runner.h"
 #include "queue/sounds.h"
 #include "queue/status_window.h"
+#include "services/about_window.h"
+#include "services/status_server.h"
 #include "settings/appearance.h"
 #include "settings/disk_tools.h"
 #include "settings/settings_window.h"
@@ -59,6 +61,7 @@ private:
     Sounds sounds_;
     JobList jobList_;
     AddGame addGame_;
+    StatusServer statusServer_;
     QueueRunner queueRunner_;
     DeviceSelection deviceSelection_;
     InstallSource installSource_;
@@ -74,6 +77,7 @@ private:
     DataFolder dataFolder_;
     GuiSettings guiSettings_;
     SettingsWindow settingsWindow_;
+    AboutWindow aboutWindow_;
 };
 
 } // namespace tarnwell

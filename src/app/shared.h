@@ -2,6 +2,7 @@
 
 #include "app/config_store.h"
 #include "platform/ports.h"
+#include "ui/frm_about.h"
 #include "ui/frm_main.h"
 #include "ui/frm_settings.h"
 #include "ui/frm_status.h"
@@ -18,6 +19,7 @@ struct Shared {
     ui::FrmMain frmMain;
     ui::LoadedOnTouch<ui::FrmSettings> frmSettings;
     ui::LoadedOnTouch<ui::FrmStatus> frmStatus;
+    ui::LoadedOnTouch<ui::FrmAbout> frmAbout;
 
     QString title; ///< the application's title, which message boxes and the tray tip carry
 
@@ -33,6 +35,7 @@ struct Shared {
     bool blnQuerySettings = false;  ///< the next query output fills the cmbHD of frmSettings
     bool blnDiscInfo = false;       ///< the next output answers cdvd_info2
     bool blnReadTOC = false;        ///< the next output answers tarn_toc; its chunks are withheld
+    bool blnServerActive = false;   ///< the status page can be asked for
 
     bool jobRunning() const { return blnQueueRunning || blnInstallRunning; }
     void message(const QString& text, MessageIcon icon = MessageIcon::Exclamation);

@@ -42,9 +42,14 @@ qint32 overallPercent(const Shared& shared, double percent, int jobs) {
     return static_cast<qint32>(std::floor(percent / jobs + finished));
 }
 
+void showOverall(Shared& shared, qint32 percent) {
+    PercentBar(shared.frmStatus->picOverall, 100, percent, shared.ports.pump);
+    shared.ports.taskbar.show(qBound(0, percent, 100));
+}
+
 void showQueue(Shared& shared, const QString& percent, int jobs) {
     const qint32 overall = overallPercent(shared, Val(percent), jobs);
-    PercentBar(shared.frmStatus->picOverall, 100, overall, shared.ports.pump);
+    showOverall(shared, overall);
     shared.frmStatus->picOverall.tag = QString::number(overall);
     TrayTip(shared.ports.tray, QStringLiteral("Current: %1%\r\nOverall: %2%\r\nJob %3 of %4\r\n%5")
                                    .arg(percent, shared.frmStatus->picOverall.tag.get())
@@ -54,7 +59,7 @@ void showQueue(Shared& shared, const QString& percent, int jobs) {
 }
 
 void showJob(Shared& shared, const QString& percent) {
-    PercentBar(shared.frmStatus->picOverall, 100, RoundToInt32(Val(percent)), shared.ports.pump);
+    showOverall(shared, RoundToInt32(Val(percent)));
     TrayTip(shared.ports.tray, percent + "%\r\n" + shared.frmStatus->lblSpeed.caption.get());
 }
 

@@ -85,7 +85,7 @@ public:
     virtual bool exists(qint64 processId) const = 0;
 };
 
-enum class MessageIcon { Exclamation, Stop };
+enum class MessageIcon { Exclamation, Question, Stop };
 
 /// What the open dialog offers: the filter is a list of "words|pattern|" pairs.
 struct OpenFileRequest {
@@ -180,19 +180,22 @@ public:
 };
 
 /// A TCP server with one client at a time: whoever connects takes the place of the one before, whose
-/// connection stays open unheard until that side closes it.
+/// connection stays open unheard until that side closes it. Browsers connect in reserve before they send the
+/// request on their first connection: so who had not sent anything yet is still heard once. Only of hundreds
+/// of connections the oldest are closed, lest clients use up what the machine has of them.
 class HttpListener {
 public:
     virtual ~HttpListener() = default;
     /// Listens on a port of all addresses of this machine. False if the port cannot be had.
     virtual bool listen(quint16 port) = 0;
-    /// Takes no more clients and hears no more of the present one, whose connection stays open. Does nothing
-    /// when it does not listen.
+    /// Takes no more clients and hears no more of those that are connected; their connections stay open. Does
+    /// nothing when it does not listen.
     virtual void close() = 0;
-    /// Sends to the present client; silent if that one has gone. Never waits.
+    /// Sends to the client that was heard last; silent if that one has gone. Never waits: nothing is sent as
+    /// long as that client has not taken what was sent before.
     virtual void send(const QByteArray& bytes) = 0;
-    /// What the present client sent: at most kMostBytes at a time, each piece as it came. Attached by the
-    /// program before `listen`.
+    /// What a client sent: at most kMostBytes at a time, each piece as it came. Attached by the program
+    /// before `listen`.
     std::function<void(const QByteArray& bytes)> received;
     static constexpr int kMostBytes = 1000;
 };

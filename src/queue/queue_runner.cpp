@@ -5,6 +5,7 @@
 #include "queue/job_result.h"
 #include "queue/status_window.h"
 #include "queue/wait_seconds.h"
+#include "queue/work_under_way.h"
 #include "services/mod_tray_icon.h"
 #include "tool/stop_tool.h"
 #include "workflows/device_selection.h"
@@ -29,9 +30,9 @@ bool reportsProgress(const QString& command) {
 } // namespace
 
 QueueRunner::QueueRunner(Shared& shared, ToolChannel& channel, cStdIO& StdIO, GuiSwitch& guiSwitch,
-                         CompletionActions& completionActions, Sounds& sounds)
+                         CompletionActions& completionActions, Sounds& sounds, StatusServer& statusServer)
     : shared_(shared), channel_(channel), StdIO_(StdIO), guiSwitch_(guiSwitch),
-      completionActions_(completionActions), sounds_(sounds) {
+      completionActions_(completionActions), sounds_(sounds), statusServer_(statusServer) {
     shared_.frmMain.cmdStart.Click = [this] { start(); };
 }
 
@@ -44,7 +45,10 @@ void QueueRunner::start() {
     shared_.blnJobStopped = false;
     shared_.blnInstallRunning = false;
     shared_.lQueueStartTick = shared_.ports.clock.tickCount();
-    runJobs();
+    {
+        const ServerDuringWork server(statusServer_);
+        runJobs();
+    }
     finish();
 }
 
@@ -68,6 +72,7 @@ void QueueRunner::resetResults() {
 }
 
 void QueueRunner::runJobs() {
+    const WorkUnderWay work(shared_.ports);
     const ui::ListView& lstJob = shared_.frmMain.lstJob;
     const int limit = qMin(lstJob.count(), kMostJobs);
     for (shared_.intJobIndex = 1; shared_.intJobIndex <= limit; ++shared_.intJobIndex) {

@@ -3,6 +3,7 @@
 #include "app/enable_gui.h"
 #include "queue/completion_actions.h"
 #include "queue/sounds.h"
+#include "services/status_server.h"
 
 namespace tarnwell {
 
@@ -12,7 +13,7 @@ namespace tarnwell {
 class QueueRunner {
 public:
     QueueRunner(Shared& shared, ToolChannel& channel, cStdIO& StdIO, GuiSwitch& guiSwitch,
-                CompletionActions& completionActions, Sounds& sounds);
+                CompletionActions& completionActions, Sounds& sounds, StatusServer& statusServer);
 
 private:
     void start();
@@ -36,6 +37,7 @@ private:
     GuiSwitch& guiSwitch_;
     CompletionActions& completionActions_;
     Sounds& sounds_;
+    StatusServer& statusServer_;
 };
 
 /// Whether a job of the list, whatever became of it, writes to the active device or deletes from it. Rows

@@ -38,10 +38,7 @@ void StatusWindow::refuseToCloseDuringWork(bool& cancel) {
 }
 
 void CentreStatusWindow(Shared& shared) {
-    const ui::FrmMain& frmMain = shared.frmMain;
-    auto& frmStatus = shared.frmStatus;
-    frmStatus->left = frmMain.left + frmMain.width / 2 - frmStatus->width / 2;
-    frmStatus->top = frmMain.top + frmMain.height / 2 - frmStatus->height / 2;
+    shared.frmStatus->centreOver(shared.frmMain);
 }
 
 void CloseStatusWindowIfWanted(Shared& shared) {

@@ -64,7 +64,7 @@ void DiskTools::listDevices() {
         return;
     auto& frmSettings = shared_.frmSettings;
     frmSettings->cmbHD.clear();
-    RunQuery(shared_.blnQuerySettings, shared_, channel_, interpreter_);
+    RunQuery(shared_.blnQuerySettings, channel_, interpreter_);
     if (const QString& address = shared_.frmMain.txtIP.text; !address.isEmpty())
         frmSettings->cmbHD.addItem(address);
 

@@ -28,11 +28,9 @@ void SettingsWindow::load() {
 }
 
 void SettingsWindow::show() {
-    const ui::FrmMain& frmMain = shared_.frmMain;
     auto& frmSettings = shared_.frmSettings;
     frmSettings->TabStrip.selectedTab = ui::FrmSettings::kTarnwellTab;
-    frmSettings->left = frmMain.left + frmMain.width / 2 - frmSettings->width / 2;
-    frmSettings->top = frmMain.top + frmMain.height / 2 - frmSettings->height / 2;
+    frmSettings->centreOver(shared_.frmMain);
     frmSettings->show();
 }
 

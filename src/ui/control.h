@@ -66,6 +66,7 @@ struct Declared {
     bool centred = false;
     bool multiSelect = false;
     bool editableLabels = false;
+    bool link = false; ///< labels: a click opens something, as in a browser
     std::optional<Font> font{};
     QStringList items{};
     int listIndex = -1;

@@ -8,7 +8,8 @@ Frame::Frame(Form& form, const QString& controlName, const Declared& declared)
     : Control(form, Kind::Frame, controlName, declared), caption(*this, declared.caption) {}
 
 Label::Label(Form& form, const QString& controlName, const Declared& declared)
-    : Control(form, Kind::Label, controlName, declared), caption(*this, declared.caption) {}
+    : Control(form, Kind::Label, controlName, declared), caption(*this, declared.caption),
+      link(declared.link) {}
 
 Line::Line(Form& form, const QString& controlName, const Declared& declared)
     : Control(form, Kind::Line, controlName, declared) {}

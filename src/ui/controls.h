@@ -14,6 +14,8 @@ class Label : public Control {
 public:
     Label(Form& form, const QString& name, const Declared& declared = {});
     Property<QString> caption;
+    const bool link; ///< shown with the hand as pointer, and reached by the keyboard, too
+    Event<> Click;   ///< of a link
 };
 
 class Line : public Control {
@@ -61,6 +63,9 @@ public:
     Event<> GotFocus;
     /// The character code of the key; a handler that sets it to 0 swallows the key.
     Event<int&> KeyPress;
+    /// From here on what the user types goes to this box.
+    void setFocus() { focusWanted.emitNow(); }
+    Signal<> focusWanted;
 };
 
 /// A drop-down list: the user can choose an entry, not type one.

@@ -23,6 +23,11 @@ void Form::hide() {
     visible = false;
 }
 
+void Form::centreOver(const Form& other) {
+    left = other.left + other.width / 2 - width / 2;
+    top = other.top + other.height / 2 - height / 2;
+}
+
 bool Form::unload() {
     if (!loaded_ || unloading_)
         return true;

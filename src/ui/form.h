@@ -36,6 +36,7 @@ public:
     void load(); ///< runs Load unless the window is loaded
     void show(); ///< loads it if need be
     void hide();
+    void centreOver(const Form& other); ///< may be called before the window is shown
     /// Closes the window: every control goes back to its declared start state. Returns false if a handler
     /// refused. A call from inside its own Unload handler does nothing.
     bool unload();

@@ -9,6 +9,13 @@ bool click(Button& button) {
     return true;
 }
 
+bool click(Label& link) {
+    if (!link.link || !link.usable())
+        return false;
+    link.form().dispatch([&] { link.Click(); });
+    return true;
+}
+
 bool click(OptionButton& option) {
     if (!option.usable())
         return false;

@@ -9,6 +9,7 @@
 namespace tarnwell::ui {
 
 bool click(Button& button);
+bool click(Label& link); ///< a label that is no link ignores it
 bool click(OptionButton& option);
 bool click(CheckBox& box);
 bool click(TextBox& box);

@@ -50,6 +50,8 @@ void DeviceSelection::chooseLocal() {
     }
     const int chosen = frmMain.cmbHD.listIndex;
     queryDisks();
+    if (!frmMain.optLocal.value)
+        return; // the user has gone back to the console meanwhile
     if (frmMain.cmbHD.listCount() == 0) {
         frmMain.optLAN.value = true;
         shared_.message("No PS2 formatted HDD's were found on your system.");
@@ -62,6 +64,8 @@ void DeviceSelection::chooseLocal() {
     frmMain.cmdAttach.width = kWideRefresh;
     frmMain.cmdShutdownPS2.visible = false;
     resetDevice();
+    if (!frmMain.optLocal.value)
+        return; // drawing the bar has let events in once more
     frmMain.cmbHD.visible = true;
     // Chosen once more, so that its Click runs with the list visible.
     chooseDiskAgain(frmMain.cmbHD.listIndex);
@@ -141,7 +145,7 @@ void DeviceSelection::pressKeyInAddress(int& key) {
 void DeviceSelection::queryDisks() {
     shared_.frmMain.cmbHD.clear();
     ShowGameCount(shared_, 0);
-    RunQuery(shared_.blnQueryHD, shared_, channel_, interpreter_);
+    RunQuery(shared_.blnQueryHD, channel_, interpreter_);
 }
 
 void DeviceSelection::chooseDiskAgain(int index) {

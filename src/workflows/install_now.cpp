@@ -1,6 +1,7 @@
 #include "workflows/install_now.h"
 
 #include "queue/status_window.h"
+#include "queue/work_under_way.h"
 #include "services/mod_tray_icon.h"
 #include "tool/stop_tool.h"
 #include "workflows/device_selection.h"
@@ -10,9 +11,9 @@
 namespace tarnwell {
 
 InstallNow::InstallNow(Shared& shared, ToolChannel& channel, cStdIO& StdIO, GuiSwitch& guiSwitch,
-                       CompletionActions& completionActions)
+                       CompletionActions& completionActions, StatusServer& statusServer)
     : shared_(shared), channel_(channel), StdIO_(StdIO), guiSwitch_(guiSwitch),
-      completionActions_(completionActions) {
+      completionActions_(completionActions), statusServer_(statusServer) {
     shared_.frmMain.cmdInstall.Click = [this] { install(); };
 }
 
@@ -44,19 +45,21 @@ void InstallNow::openStatus(const QString& name) {
 }
 
 void InstallNow::run(const Installation& game) {
+    const WorkUnderWay work(shared_.ports);
     shared_.blnInstallRunning = true;
     shared_.blnJobDone = false;
     shared_.blnJobStopped = false;
     shared_.lJobStartTick = shared_.ports.clock.tickCount();
+    const ServerDuringWork server(statusServer_);
     shared_.balloon("Installing [" + game.name + "] to [" + game.device + "]");
     channel_.Tarn_Command(InstallCommand(game));
     if (shared_.blnInstallRunning && shared_.blnJobStopped)
         WaitForStoppedTool(StdIO_, shared_.ports.pump);
     shared_.blnInstallRunning = false;
+    resetInstallPage(shared_.frmMain);
 }
 
 void InstallNow::finish(const Installation& game) {
-    resetInstallPage(shared_.frmMain);
     CloseStatusWindowIfWanted(shared_);
     guiSwitch_.EnableGUI(true);
     TrayTip(shared_.ports.tray, shared_.title);

@@ -3,6 +3,7 @@
 #include "app/enable_gui.h"
 #include "interpreter/tool_commands.h"
 #include "queue/completion_actions.h"
+#include "services/status_server.h"
 #include "tool/tool_channel.h"
 
 namespace tarnwell {
@@ -11,7 +12,7 @@ namespace tarnwell {
 class InstallNow {
 public:
     InstallNow(Shared& shared, ToolChannel& channel, cStdIO& StdIO, GuiSwitch& guiSwitch,
-               CompletionActions& completionActions);
+               CompletionActions& completionActions, StatusServer& statusServer);
 
 private:
     void install();
@@ -24,6 +25,7 @@ private:
     cStdIO& StdIO_;
     GuiSwitch& guiSwitch_;
     CompletionActions& completionActions_;
+    StatusServer& statusServer_;
 };
 
 } // namespace tarnwell

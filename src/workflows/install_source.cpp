@@ -66,8 +66,10 @@ void InstallSource::chooseOptical() {
     frmMain.cmbOptical.clear();
     {
         const Hourglass hourglass(frmMain);
-        RunQuery(shared_.blnQueryOptical, shared_, channel_, interpreter_);
+        RunQuery(shared_.blnQueryOptical, channel_, interpreter_);
     }
+    if (!frmMain.optOptical.value)
+        return; // the user has gone back to images meanwhile
     if (frmMain.cmbOptical.listCount() == 1)
         frmMain.cmbOptical.listIndex = 0;
     clearCompatibilityFlags(frmMain);

@@ -38,6 +38,6 @@ private:
 
 /// Asks the tool for the PC's disks and drives and returns when the answer has been read. `flag` says which
 /// lists the answer fills.
-void RunQuery(bool& flag, Shared& shared, ToolChannel& channel, OutputInterpreter& interpreter);
+void RunQuery(bool& flag, ToolChannel& channel, OutputInterpreter& interpreter);
 
 } // namespace tarnwell

@@ -6,7 +6,8 @@
 
 namespace tarnwell {
 
-RenameGame::RenameGame(Shared& shared, ToolChannel& channel) : shared_(shared), channel_(channel) {
+RenameGame::RenameGame(Shared& shared, ToolChannel& channel, const GuiSwitch& guiSwitch)
+    : shared_(shared), channel_(channel), guiSwitch_(guiSwitch) {
     shared_.frmMain.lstHD.AfterLabelEdit = [this](bool& cancel, int row, const QString& newName) {
         // Never taken over by the list itself: it is read anew before this ends, and then the row can be
         // another game's.
@@ -17,7 +18,9 @@ RenameGame::RenameGame(Shared& shared, ToolChannel& channel) : shared_(shared), 
 }
 
 bool RenameGame::accepts(const QString& oldName, const QString& newName) {
-    if (Trim(newName).isEmpty() || shared_.jobRunning())
+    // A job that deletes sets no flag, and the list stays usable. Read anew, it would make Install Now usable
+    // too, in the middle of the queue.
+    if (Trim(newName).isEmpty() || shared_.jobRunning() || guiSwitch_.paused())
         return false;
     if (newName.toLower() != oldName.toLower())
         return true;

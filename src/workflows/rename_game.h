@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/enable_gui.h"
 #include "tool/tool_channel.h"
 
 namespace tarnwell {
@@ -7,7 +8,7 @@ namespace tarnwell {
 /// Renames a game when its label in the list has been edited.
 class RenameGame {
 public:
-    RenameGame(Shared& shared, ToolChannel& channel);
+    RenameGame(Shared& shared, ToolChannel& channel, const GuiSwitch& guiSwitch);
 
 private:
     bool accepts(const QString& oldName, const QString& newName);
@@ -15,6 +16,7 @@ private:
 
     Shared& shared_;
     ToolChannel& channel_;
+    const GuiSwitch& guiSwitch_;
 };
 
 } // namespace tarnwell

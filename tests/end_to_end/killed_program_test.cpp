@@ -4,8 +4,6 @@
 #include <QProcess>
 #include <QProcessEnvironment>
 
-#include <csignal>
-
 namespace tarnwell::test {
 namespace {
 

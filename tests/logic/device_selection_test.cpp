@@ -151,6 +151,24 @@ TEST_F(DeviceSelection, LocalWithoutTheToolFallsBackToLan) {
     EXPECT_TRUE(commands().isEmpty());
 }
 
+TEST_F(DeviceSelection, GoingBackToTheConsoleWhileTheDisksAreSoughtKeepsItsAddressOnView) {
+    ports.launcher.on("tarnwell.exe query", {.output = {{kTwoDisks}}, .endsAtMs = 500});
+    ports.pump.after(100, [this] { ui::click(frmMain.optLAN); });
+    ui::click(frmMain.optLocal);
+    EXPECT_TRUE(frmMain.optLAN.value);
+    EXPECT_TRUE(frmMain.txtIP.visible);
+    EXPECT_FALSE(frmMain.cmbHD.visible);
+    EXPECT_EQ(frmMain.cmdAttach.caption.get(), "Refresh PS2");
+}
+
+TEST_F(DeviceSelection, ALostConnectionInPlaceOfTheDisksEndsTheSearch) {
+    answerQueryWith("An existing connection was forcibly closed by the remote host\r\n");
+    ui::click(frmMain.optLocal);
+    EXPECT_TRUE(frmMain.optLAN.value);
+    EXPECT_EQ(lastMessage(), "No PS2 formatted HDD's were found on your system.");
+    EXPECT_FALSE(program.shared().blnQueryHD);
+}
+
 TEST_F(DeviceSelection, LocalWithoutDisksFallsBackToLan) {
     answerQueryWith("\thdd1:  114473MB, unknown\r\n");
     ui::click(frmMain.optLocal);

@@ -36,6 +36,15 @@ struct InstallSource : ProgramTest {
 
 } // namespace
 
+TEST_F(InstallSource, GoingBackToImagesWhileTheDrivesAreSoughtReadsNoDisc) {
+    ports.launcher.on("tarnwell.exe query", {.output = {{kOneDrive}}, .endsAtMs = 500});
+    ports.pump.after(100, [this] { ui::click(frmMain.optISO); });
+    ui::click(frmMain.optOptical);
+    EXPECT_TRUE(frmMain.optISO.value);
+    EXPECT_EQ(frmMain.txtGameName.text.get(), "");
+    EXPECT_FALSE(frmMain.cmdMakeISO.enabled);
+}
+
 TEST_F(InstallSource, PickingAnImageFillsThePage) {
     pick("/games/My Game.iso");
     EXPECT_EQ(commands(), QStringList("cdvd_info2 \"/games/My Game.iso\""));

@@ -504,6 +504,23 @@ TEST_F(QueueRunner, ExitInThePauseAfterADeleteRunsNoLaterStep) {
     EXPECT_EQ(jobCommands(), QStringList("delete 192.168.0.10 A"));
 }
 
+TEST_F(QueueRunner, NothingIsRenamedWhileAJobDeletes) {
+    // The list read anew would make Install Now usable, in the middle of the queue.
+    addJob("delete 192.168.0.10 A", "Delete", kConsole, "");
+    addInstalls(1);
+    ports.pump.after(700, [this] {
+        showMain();
+        ui::click(frmMain.cmdControls);
+        ui::click(frmMain.optBrowse);
+        EXPECT_FALSE(ui::editLabel(frmMain.lstHD, 0, "Other Name"));
+        EXPECT_FALSE(frmMain.cmdInstall.enabled);
+    });
+    runQueue();
+    EXPECT_EQ(jobCommands(), QStringList({"delete 192.168.0.10 A", "inject_dvd 192.168.0.10 GAME1 x.iso"}));
+    EXPECT_TRUE(ports.dialogs.messages.empty());
+    EXPECT_TRUE(frmMain.cmdExit.enabled);
+}
+
 TEST_F(QueueRunner, FiveHundredJobsRunInTheirOrder) {
     constexpr int kJobs = 500;
     answerWith("inject", {.output = {{"100%\r", 0}}, .endsAtMs = 30});

@@ -106,6 +106,15 @@ TEST_F(DialogsTest, AStopMessageHasTheStopIcon) {
     dialogs_.message("Unexpected error.", MessageIcon::Stop, "Tarnwell GUI");
 }
 
+TEST_F(DialogsTest, AMessageThatAsksSomethingOfTheUserHasTheQuestionMark) {
+    whenOpen<QMessageBox>([](QMessageBox& box) {
+        EXPECT_EQ(box.icon(), QMessageBox::Question);
+        EXPECT_EQ(box.standardButtons(), QMessageBox::Ok);
+        box.accept();
+    });
+    dialogs_.message("Leave this open.", MessageIcon::Question, "Tarnwell GUI");
+}
+
 TEST_F(DialogsTest, AQuestionIsAnsweredByYesOnly) {
     const auto answerBy = [this](const std::function<void(QMessageBox&)>& act) {
         whenOpen<QMessageBox>(act);

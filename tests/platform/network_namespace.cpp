@@ -1,7 +1,10 @@
 #include "platform/network_namespace.h"
 
+#include "platform/posix/icmp_packet.h"
+
 #include <QByteArrayList>
 #include <QFile>
+#include <QtEndian>
 
 #include <arpa/inet.h>
 #include <net/if.h>
@@ -10,11 +13,17 @@
 #include <sched.h>
 #include <sys/ioctl.h>
 #include <sys/socket.h>
+#include <thread>
 #include <unistd.h>
 
 namespace tarnwell::test {
 
 namespace {
+
+constexpr char kEchoRequest = 8;
+constexpr char kEchoReply = 0;
+constexpr ssize_t kIpHeaderBytes = 20;
+constexpr ssize_t kIcmpHeaderBytes = 8;
 
 bool writeFile(const QString& path, const QByteArray& text) {
     QFile file(path);
@@ -45,6 +54,14 @@ bool startLoopback() {
     return done;
 }
 
+QByteArray answerTo(QByteArray request) {
+    constexpr qsizetype kChecksumOffset = 2;
+    request[0] = kEchoReply;
+    qToBigEndian<quint16>(0, request.data() + kChecksumOffset);
+    qToBigEndian(icmp::checksum(request), request.data() + kChecksumOffset);
+    return request;
+}
+
 } // namespace
 
 bool enterNetworkNamespace() {
@@ -60,6 +77,26 @@ bool enterNetworkNamespace() {
 
 bool allowDatagramEchoes() {
     return writeFile("/proc/sys/net/ipv4/ping_group_range", "0 0");
+}
+
+void answerEchoesLate(int milliseconds) {
+    writeFile("/proc/sys/net/ipv4/icmp_echo_ignore_all", "1");
+    const int peer = ::socket(AF_INET, SOCK_RAW | SOCK_CLOEXEC, IPPROTO_ICMP);
+    std::thread([peer, milliseconds] {
+        char bytes[2048];
+        sockaddr_in from{};
+        for (;;) {
+            socklen_t size = sizeof from;
+            const ssize_t count =
+                ::recvfrom(peer, bytes, sizeof bytes, 0, reinterpret_cast<sockaddr*>(&from), &size);
+            if (count < kIpHeaderBytes + kIcmpHeaderBytes || bytes[kIpHeaderBytes] != kEchoRequest)
+                continue;
+            std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+            const QByteArray answer = answerTo({bytes + kIpHeaderBytes, count - kIpHeaderBytes});
+            ::sendto(peer, answer.constData(), static_cast<size_t>(answer.size()), 0,
+                     reinterpret_cast<const sockaddr*>(&from), size);
+        }
+    }).detach();
 }
 
 int echoesSent() {
@@ -85,9 +122,7 @@ EchoListener::~EchoListener() {
 }
 
 QByteArray EchoListener::payloads() const {
-    constexpr char kEchoRequest = 8;
-    constexpr ssize_t kIpHeaderBytes = 20;
-    constexpr ssize_t kHeaderBytes = kIpHeaderBytes + 8;
+    constexpr ssize_t kHeaderBytes = kIpHeaderBytes + kIcmpHeaderBytes;
     QByteArray payloads;
     char bytes[2048];
     for (ssize_t count = 0; (count = ::recv(descriptor_, bytes, sizeof bytes, 0)) >= 0;) {

@@ -17,6 +17,10 @@ bool enterNetworkNamespace();
 /// Lets this user send echoes over datagram sockets.
 bool allowDatagramEchoes();
 
+/// Answers every echo request of this network in the system's place, which keeps silent from now on, so many
+/// milliseconds late. Ends with the program.
+void answerEchoesLate(int milliseconds);
+
 /// The echo requests that have gone out of this network so far.
 int echoesSent();
 

@@ -28,13 +28,17 @@ int power(const QString& act, const QString& onlyFolder) {
     return 0;
 }
 
-/// Pings in a network of its own, and tells what came back and what went out.
-int ping(const QString& address, const QString& datagrams) {
+/// Pings in a network of its own, and tells what came back and what went out. With a peer that is `lateMs`
+/// late the system itself answers nobody.
+int ping(const QString& address, const QString& datagrams, const QString& lateMs) {
     if (!test::enterNetworkNamespace()) {
         return test::kNoNamespace;
     }
     if (datagrams == "datagrams" && !test::allowDatagramEchoes()) {
         return test::kNoNamespace;
+    }
+    if (!lateMs.isEmpty()) {
+        test::answerEchoesLate(lateMs.toInt());
     }
     const test::EchoListener listener;
     PosixPing port;
@@ -60,7 +64,7 @@ int run(const QStringList& arguments) {
         return power(act, arguments.value(2));
     }
     if (act == "ping") {
-        return ping(arguments.value(2), arguments.value(3));
+        return ping(arguments.value(2), arguments.value(3), arguments.value(4));
     }
     if (act == "status") {
         return status(arguments.value(2));

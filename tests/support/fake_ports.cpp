@@ -99,6 +99,12 @@ void FakeEventPump::waitForEvent(int milliseconds) {
     throwIfEnded();
 }
 
+void FakeEventPump::end() {
+    if (!ended_ && whenEnded)
+        whenEnded();
+    ended_ = true;
+}
+
 void FakeEventPump::throwIfEnded() const {
     if (ended_)
         throw ProgramEnded();
@@ -108,6 +114,9 @@ void FakeEventPump::countCall() {
     throwIfEnded();
     if (++pumps > kPatience)
         throw std::runtime_error("The program waits for something that never comes.");
+    if (whileWaiting)
+        whileWaiting();
+    throwIfEnded();
 }
 
 /// Serves what falls due until then, in the order of time; an event can wait itself, and so move the clock

@@ -34,8 +34,11 @@ public:
     void pump() override;
     void pumpFor(int milliseconds) override;
     void waitForEvent(int milliseconds) override;
-    void end() override { ended_ = true; }
+    void end() override;
     bool ended() const override { return ended_; }
+
+    std::function<void()> whileWaiting; ///< what happens at every wait of the program
+    std::function<void()> whenEnded;    ///< told when the end of the program is asked for
 
     void throwIfEnded() const;
     int pumps = 0; ///< calls of all kinds so far; a program that waits for ever is stopped

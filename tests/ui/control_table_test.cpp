@@ -1,4 +1,5 @@
 #include "support/gtest_qt.h"
+#include "ui/frm_about.h"
 #include "ui/frm_main.h"
 #include "ui/frm_settings.h"
 #include "ui/frm_status.h"
@@ -103,4 +104,30 @@ TEST(FrmStatus, StartsWithNothingKnown) {
     EXPECT_EQ(frmStatus.lblFinish.caption.get(), "  When all jobs are complete:");
     EXPECT_EQ(frmStatus.cmdStop.caption.get(), "Cancel");
     EXPECT_EQ(frmStatus.picCurrent.tag.get(), "");
+}
+
+TEST(FrmAbout, NamesTheVersionsThatGoWithTheProgram) {
+    const FrmAbout frmAbout;
+    EXPECT_EQ(frmAbout.caption.get(), " About...");
+    EXPECT_EQ(frmAbout.Label1.caption.get(), "Tarnwell GUI");
+    EXPECT_EQ(frmAbout.Label3.caption.get(), "by mirelane");
+    EXPECT_EQ(frmAbout.lblThread.caption.get(), "GUI Release Thread");
+    EXPECT_EQ(frmAbout.Label4.caption.get(), "tarnwell v0.8.6");
+    EXPECT_EQ(frmAbout.Label5.caption.get(), "tarnd_svr v0.8.5");
+    EXPECT_EQ(frmAbout.txtAbout.text.get(), "");
+    EXPECT_TRUE(frmAbout.txtAbout.readOnly && frmAbout.txtAbout.multiLine);
+}
+
+TEST(FrmAbout, HoldsEachOfItsLinksInAFrameOfItsOwn) {
+    const FrmAbout frmAbout;
+    EXPECT_EQ(namesWhere(frmAbout,
+                         [](const Control& control) {
+                             return control.kind == Kind::Label && static_cast<const Label&>(control).link;
+                         })
+                  .join(' '),
+              "lblCommunitySite lblThread Label4 Label5");
+    EXPECT_EQ(frmAbout.lblCommunitySite.container, &frmAbout.Frame1);
+    EXPECT_EQ(frmAbout.lblThread.container, &frmAbout.Frame2);
+    EXPECT_EQ(frmAbout.Label4.container, &frmAbout.Frame3);
+    EXPECT_EQ(frmAbout.Label5.container, &frmAbout.Frame4);
 }

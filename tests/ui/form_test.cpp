@@ -110,3 +110,17 @@ TEST(Form, UnloadingWhatIsNotLoadedRunsNothing) {
     EXPECT_TRUE(form.unload());
     EXPECT_EQ(unloads, 0);
 }
+
+TEST(Form, StandsInTheMiddleOfAnotherWithoutBeingLoaded) {
+    SampleForm form, other;
+    form.width = 200;
+    form.height = 100;
+    other.left = 1000;
+    other.top = 500;
+    other.width = 600;
+    other.height = 60;
+    form.centreOver(other);
+    EXPECT_EQ(form.left, 1200);
+    EXPECT_EQ(form.top, 480);
+    EXPECT_FALSE(form.loaded());
+}

@@ -10,6 +10,8 @@ namespace {
 struct SampleForm : Form {
     SampleForm() : Form("frmSample", {}) {}
     Button cmdSample{*this, "cmdSample"};
+    Label lblSample{*this, "lblSample"};
+    Label lblLink{*this, "lblLink", {.link = true}};
     CheckBox chkSample{*this, "chkSample"};
     TextBox txtSample{*this, "txtSample"};
     TextBox txtFixed{*this, "txtFixed", {.text = "fixed", .readOnly = true}};
@@ -30,6 +32,16 @@ struct UserActions : testing::Test {
 };
 
 } // namespace
+
+TEST_F(UserActions, OfLabelsOnlyAReachableLinkTakesAClick) {
+    form.lblSample.Click = count;
+    form.lblLink.Click = count;
+    EXPECT_FALSE(click(form.lblSample));
+    EXPECT_TRUE(click(form.lblLink));
+    form.hide();
+    EXPECT_FALSE(click(form.lblLink));
+    EXPECT_EQ(calls, 1);
+}
 
 TEST_F(UserActions, ClickReachesOnlyWhatIsEnabled) {
     form.cmdSample.Click = count;

@@ -5,6 +5,8 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QTimer>
 
 namespace tarnwell::view {
@@ -103,6 +105,15 @@ TEST_P(Fonts, EverythingFitsOnEveryPageOfTheSettingsWindow) {
     }
     samples::ownLook(form);
     expectGood(*view.window());
+}
+
+TEST_P(Fonts, EverythingFitsInTheAboutWindow) {
+    ui::FrmAbout form;
+    const AboutWindowView view(form);
+    samples::thanks(form);
+    expectGood(*view.window());
+    const auto* thanks = view.window()->findChild<QPlainTextEdit*>("txtAbout");
+    EXPECT_FALSE(thanks->verticalScrollBar()->isVisible());
 }
 
 TEST_P(Fonts, TheSpeedOfAFastDiskIsNotCut) {

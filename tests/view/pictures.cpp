@@ -1,6 +1,7 @@
 // Writes pictures of the windows into the folder that is named as the argument. QT_SCALE_FACTOR chooses the
 // scale.
 
+#include "ui/qt/about_window_view.h"
 #include "ui/qt/application_icon.h"
 #include "ui/qt/main_window_view.h"
 #include "ui/qt/settings_window_view.h"
@@ -62,10 +63,18 @@ void settingsWindow(const QDir& folder, const QString& look) {
     picture("own-look", ui::FrmSettings::kGuiTab, view::samples::ownLook);
 }
 
+void aboutWindow(const QDir& folder, const QString& look) {
+    ui::FrmAbout form;
+    const view::AboutWindowView view(form);
+    view::samples::thanks(form);
+    save(*view.window(), folder, look + "-about");
+}
+
 void allWindows(const QDir& folder, const QString& look) {
     mainWindow(folder, look);
     settingsWindow(folder, look);
     statusWindow(folder, look);
+    aboutWindow(folder, look);
 }
 
 } // namespace

@@ -126,6 +126,14 @@ void settings(ui::FrmSettings& form, ui::FrmSettings::Tab tab) {
     form.show();
 }
 
+void thanks(ui::FrmAbout& form) {
+    form.Label2.caption = "v1.5";
+    form.txtAbout.text =
+        "Thanks to everyone that contributed ideas and gave bug reports. Special thanks to all "
+        "who helped with debugging, and to all who answered everybody's questions, by name.";
+    form.show();
+}
+
 void ownLook(ui::Form& form) {
     constexpr std::int32_t kIvory = 0xDCF5FA, kPine = 0x2E4A1B;
     form.backColor = kIvory;
@@ -150,6 +158,7 @@ QPalette darkPalette() {
     dark.setColor(QPalette::Base, field);
     dark.setColor(QPalette::Highlight, QColor(42, 110, 200));
     dark.setColor(QPalette::HighlightedText, Qt::white);
+    dark.setColor(QPalette::Link, QColor(110, 170, 240));
     return dark;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/frm_about.h"
 #include "ui/frm_main.h"
 #include "ui/frm_settings.h"
 #include "ui/frm_status.h"
@@ -19,6 +20,8 @@ void activity(ui::FrmMain& form);
 void jobRunning(ui::FrmStatus& form);
 /// The window of settings, open at one of its pages.
 void settings(ui::FrmSettings& form, ui::FrmSettings::Tab tab);
+/// The about window, its text typed.
+void thanks(ui::FrmAbout& form);
 /// A font and a pair of colours as a user might choose them.
 void ownLook(ui::Form& form);
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/gtest_qt.h"
+#include "ui/qt/about_window_view.h"
 #include "ui/qt/main_window_view.h"
 #include "ui/qt/settings_window_view.h"
 #include "ui/qt/status_window_view.h"

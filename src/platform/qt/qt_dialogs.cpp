@@ -22,7 +22,15 @@ QWidget* windowOfTheUser() {
 }
 
 QMessageBox::Icon toolkitIcon(MessageIcon icon) {
-    return icon == MessageIcon::Stop ? QMessageBox::Critical : QMessageBox::Warning;
+    switch (icon) {
+    case MessageIcon::Question:
+        return QMessageBox::Question;
+    case MessageIcon::Stop:
+        return QMessageBox::Critical;
+    case MessageIcon::Exclamation:
+        break;
+    }
+    return QMessageBox::Warning;
 }
 
 QFont toolkitFont(const ui::Font& font) {

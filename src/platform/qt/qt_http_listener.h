@@ -16,12 +16,18 @@ public:
     void close() override;
     void send(const QByteArray& bytes) override;
 
+    static constexpr int kMostConnections = 256;
+
 private:
     void accept();
-    void read();
+    void take(QTcpSocket& socket);
+    void read(QTcpSocket& socket);
 
-    QTcpServer server_;
-    QPointer<QTcpSocket> client_; ///< the latest; all live as children of the server until they disconnect
+    QList<QTcpSocket*> connections_; ///< the oldest first; children of the server
+    QList<QTcpSocket*> silent_;      ///< those of them that have not sent anything since `listen`
+    QPointer<QTcpSocket> latest_;
+    QPointer<QTcpSocket> heard_;
+    QTcpServer server_; ///< the first to go: its children still leave the lists when they end
 };
 
 } // namespace tarnwell

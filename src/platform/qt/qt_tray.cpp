@@ -1,5 +1,7 @@
 #include "platform/qt/qt_tray.h"
 
+#include <QGuiApplication>
+
 namespace tarnwell {
 
 QtTray::QtTray(const QIcon& icon) : icon_(icon) {
@@ -14,6 +16,9 @@ bool QtTray::available() const {
 void QtTray::add(const QString& tip) {
     icon_.setToolTip(tip);
     icon_.show(); // also without a tray: the desktop's panel may come up after this program
+    if (makeMenu && available() && drawnByPanel()) {
+        icon_.setContextMenu(makeMenu());
+    }
 }
 
 void QtTray::setTip(const QString& tip) {
@@ -30,11 +35,15 @@ void QtTray::remove() {
     icon_.hide();
 }
 
+bool QtTray::drawnByPanel() const {
+    return icon_.geometry().isNull() && QGuiApplication::platformName() != QLatin1String("windows");
+}
+
 void QtTray::activated(QSystemTrayIcon::ActivationReason reason) {
-    // A status notifier host draws the icon itself: it tells no place of it and no clicks, only that the user
-    // wants the program, by whatever gesture that desktop has for it.
-    const bool hostWantsProgram = reason == QSystemTrayIcon::Trigger && icon_.geometry().isNull();
-    if (reason == QSystemTrayIcon::DoubleClick || hostWantsProgram) {
+    // A panel that draws the icon itself tells no clicks, only that the user wants the program, by whatever
+    // gesture that desktop has for it.
+    const bool panelWantsProgram = reason == QSystemTrayIcon::Trigger && drawnByPanel();
+    if (reason == QSystemTrayIcon::DoubleClick || panelWantsProgram) {
         if (doubleClicked) {
             doubleClicked();
         }

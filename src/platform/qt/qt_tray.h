@@ -18,10 +18,17 @@ public:
     void showBalloon(const QString& title, const QString& text) override;
     void remove() override;
 
+    /// Makes the menu of a right click for panels that draw the icon and its menu themselves and pass no
+    /// right click on. Called in `add` if there is such a panel.
+    std::function<QMenu*()> makeMenu;
+
     /// What the desktop reports about the icon.
     void activated(QSystemTrayIcon::ActivationReason reason);
 
 private:
+    /// Such a panel (a status notifier host) tells no place of the icon.
+    bool drawnByPanel() const;
+
     QSystemTrayIcon icon_;
 };
 

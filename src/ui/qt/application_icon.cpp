@@ -29,6 +29,11 @@ public:
                                : picture.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     }
 
+    QSize actualSize(const QSize& size, QIcon::Mode, QIcon::State) override {
+        const int side = std::min(size.width(), size.height());
+        return {side, side}; // also in a panel whose place for it is not square
+    }
+
     void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State state) override {
         painter->drawPixmap(place, pixmap(place.size(), mode, state));
     }

@@ -12,6 +12,7 @@ namespace tarnwell::view {
 
 QWidget* bindFrame(Binding& binding, ui::Frame& frame, QWidget* parent);
 QWidget* bindLabel(Binding& binding, ui::Label& label, QWidget* parent);
+QWidget* bindLink(Binding& binding, ui::Label& link, QWidget* parent);
 QWidget* bindLine(QWidget* parent);
 QWidget* bindButton(Binding& binding, ui::Button& button, QWidget* parent);
 QWidget* bindOptionButton(Binding& binding, ui::OptionButton& option, QWidget* parent);

@@ -40,6 +40,8 @@ QWidget* bindFrame(Binding& binding, ui::Frame& frame, QWidget* parent) {
 }
 
 QWidget* bindLabel(Binding& binding, ui::Label& label, QWidget* parent) {
+    if (label.link)
+        return bindLink(binding, label, parent);
     auto* widget = new Label(parent);
     widget->setTextFormat(Qt::PlainText);
     binding.follow(label.caption.changed, *widget, [&label, widget] {

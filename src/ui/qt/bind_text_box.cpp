@@ -111,7 +111,10 @@ QWidget* bindSeveralLines(Binding& binding, ui::TextBox& box, QWidget* parent) {
 } // namespace
 
 QWidget* bindTextBox(Binding& binding, ui::TextBox& box, QWidget* parent) {
-    return box.multiLine ? bindSeveralLines(binding, box, parent) : bindOneLine(binding, box, parent);
+    QWidget* edit =
+        box.multiLine ? bindSeveralLines(binding, box, parent) : bindOneLine(binding, box, parent);
+    binding.listen(box.focusWanted, *edit, [edit] { edit->setFocus(); });
+    return edit;
 }
 
 } // namespace tarnwell::view

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/qt/control_binder.h"
+#include "ui/qt/popup_menu.h"
 #include "ui/qt/window_layout.h"
 
 #include <memory>
@@ -14,6 +15,9 @@ public:
     explicit FormView(ui::Form& form);
 
     const TwipScale& currentScale() const { return binder_.scale(); }
+
+    /// A menu of the form, for someone else to show.
+    QMenu& menu(ui::PopupMenu& model) { return menuOf(binding(), model, *this); }
 
     /// For a desktop without a tray, where nobody would find a hidden window again: hiding minimises it
     /// instead. When the user brings it back, `restored` is called through the form's dispatcher.

@@ -63,6 +63,8 @@ void bindEntry(Binding& binding, ui::MenuEntry& entry, QMenu& menu) {
     });
 }
 
+} // namespace
+
 QMenu& menuOf(Binding& binding, ui::PopupMenu& model, QWidget& window) {
     if (auto* made = window.findChild<QMenu*>(model.name, Qt::FindDirectChildrenOnly))
         return *made;
@@ -73,8 +75,6 @@ QMenu& menuOf(Binding& binding, ui::PopupMenu& model, QWidget& window) {
         bindEntry(binding, *entry, *menu);
     return *menu;
 }
-
-} // namespace
 
 void bindMenu(Binding& binding, ui::PopupMenu& model, QWidget& window) {
     binding.listen(model.poppedUp, window, [&](int x, int y) {
