@@ -17,13 +17,13 @@ complain() {
 }
 inspect() { x86_64-w64-mingw32-objdump -p "$1"; }
 
-again=$scratch/$(basename "$zip")
-"$here/package.sh" "$build" "$again"
-cmp "$zip" "$again" || complain 'Packed twice, two files.'
-
-unzip -q "$zip" -d "$scratch/Program Files"
+TZ=UTC unzip -q "$zip" -d "$scratch/Program Files"
 folder="$scratch/Program Files/$(basename "$zip" .zip)"
 program=$folder/tarnwell-gui.exe
+
+again=$scratch/$(basename "$zip")
+SOURCE_DATE_EPOCH=$(stat -c %Y "$folder/README.txt") "$here/package.sh" "$build" "$again"
+cmp "$zip" "$again" || complain 'Packed twice, two files.'
 
 for file in tarnwell-gui.exe README.txt LICENSE.txt demo/tarnwell.exe demo/tarnwell-samples.exe demo/start-demo.cmd \
     licences/README.txt licences/LGPL-3.txt licences/GPL-3.txt licences/Qt.txt licences/GCC.txt licences/mingw-w64.txt; do

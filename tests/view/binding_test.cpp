@@ -183,12 +183,17 @@ TEST_F(BoundControls, SelectionBehindTheEndBringsTheEndIntoView) {
     };
     form.txtOutput.text = text;
     serveEvents();
-    const QScrollBar& bar = *widget<QPlainTextEdit>(form.txtOutput).verticalScrollBar();
-    EXPECT_GT(bar.maximum(), 0);
-    EXPECT_EQ(bar.value(), bar.maximum());
+    const auto& box = widget<QPlainTextEdit>(form.txtOutput);
+    const auto endInView = [&box] {
+        QTextCursor end(box.document());
+        end.movePosition(QTextCursor::End);
+        return box.viewport()->rect().contains(box.cursorRect(end).center());
+    };
+    EXPECT_GT(box.verticalScrollBar()->value(), 0);
+    EXPECT_TRUE(endInView());
     form.txtOutput.text = text.replace("A line", "B line");
     serveEvents();
-    EXPECT_EQ(bar.value(), bar.maximum()) << "a text of the same length moves no selection";
+    EXPECT_TRUE(endInView()) << "a text of the same length moves no selection";
 }
 
 TEST_F(BoundControls, ComboBoxGoesBothWays) {
