@@ -1,6 +1,6 @@
 #include "simulator/tool_runner.h"
 
-#include <gmock/gmock.h>
+#include <regex>
 
 namespace {
 
@@ -30,9 +30,8 @@ TEST_F(Copying, ProgressGoesFromZeroToHundredInLinesEndedByACarriageReturn) {
     ASSERT_EQ(lines.size(), 101u);
     EXPECT_EQ(lines.front(), "  0%");
     for (std::size_t i = 1; i < lines.size(); ++i) {
-        const std::string percent = std::to_string(i);
-        EXPECT_THAT(lines[i], testing::MatchesRegex(" *" + percent +
-                                                    "%, [0-9]+ min remaining, [0-9]+[.][0-9]+ MB/sec"));
+        const std::regex line(" *" + std::to_string(i) + "%, [0-9]+ min remaining, [0-9]+[.][0-9]+ MB/sec");
+        EXPECT_TRUE(std::regex_match(lines[i], line)) << lines[i];
     }
     EXPECT_EQ(lines.back().substr(0, 5), "100%,");
     EXPECT_EQ(result.text.back(), '\r');
@@ -46,19 +45,6 @@ TEST_F(Copying, ExtractGivesBackTheInjectedBytes) {
     ASSERT_EQ(run({"inject_dvd", "hdd1:", "Game", "a.iso"}).exitCode, 0);
     ASSERT_EQ(run({"extract", "hdd1:", "Game", "back.iso"}).exitCode, 0);
     EXPECT_TRUE(read(folder() / "back.iso") == odd);
-}
-
-TEST_F(Copying, ALargeSparseImageTakesNeitherTimeNorRoom) {
-    const std::uint64_t size = 8000 * kMb;
-    simulator::Disk::create(worldFolder() / "disks" / "hdd4", "hdd4:", 10000, true);
-    makeImage("big.iso", "SLUS_123.45", size);
-    fs::resize_file(folder() / "big.iso", size + 5); // a tail that is no whole block
-    ASSERT_EQ(run({"inject_dvd", "hdd4:", "Big", "big.iso"}).exitCode, 0);
-    ASSERT_EQ(run({"extract", "hdd4:", "Big", "back.iso"}).exitCode, 0);
-    EXPECT_EQ(fs::file_size(folder() / "back.iso"), size + 5);
-    EXPECT_EQ(disk("hdd4").usedMb(), 8064);
-    EXPECT_LT(roomOf(folder() / "back.iso"), 10 * kMb);
-    EXPECT_LT(roomOf(gamesFolder("hdd4") / "1.image"), 10 * kMb);
 }
 
 TEST_F(Copying, TypeStartupAndFlagsAreKept) {

@@ -58,9 +58,6 @@ private:
 Result runProgram(const std::filesystem::path& program, const Words& arguments,
                   const std::filesystem::path& workingFolder);
 
-/// What a file really takes of the disk, in bytes.
-std::uint64_t roomOf(const std::filesystem::path& file);
-
 /// A folder of its own, removed at the end.
 class ScratchFolder {
 public:

@@ -5,7 +5,6 @@
 #include <poll.h>
 #include <spawn.h>
 #include <stdexcept>
-#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -65,10 +64,4 @@ bool RunningTool::running() {
         process_ = kNone;
     }
     return process_ != kNone;
-}
-
-std::uint64_t roomOf(const fs::path& file) {
-    struct stat facts {};
-    EXPECT_EQ(stat(file.c_str(), &facts), 0);
-    return static_cast<std::uint64_t>(facts.st_blocks) * 512;
 }

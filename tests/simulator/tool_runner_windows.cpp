@@ -106,9 +106,3 @@ bool RunningTool::running() {
     }
     return process_ != kNone;
 }
-
-std::uint64_t roomOf(const fs::path& file) {
-    DWORD high = 0;
-    const DWORD low = GetCompressedFileSizeW(file.c_str(), &high);
-    return std::uint64_t{high} << 32 | low;
-}
