@@ -8,8 +8,8 @@
 namespace tarnwell::tour {
 
 /// Shows what the program can do: a console and a disk are looked at, a sample image is installed, a queue of
-/// jobs is worked off, the settings are looked at. Each step leaves a picture and a line of plain words; one that goes otherwise than
-/// expected ends the tour.
+/// jobs is worked off, the settings are looked at. Each step leaves a picture and a line of plain words; one
+/// that goes otherwise than expected ends the tour.
 class GuidedTour {
 public:
     GuidedTour(User& user, const Workbench& bench, const QDir& pictures)
