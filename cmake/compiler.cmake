@@ -1,6 +1,7 @@
 # Compiler settings that every target shares: warnings are errors, sanitizers by preset, a compiler cache if there is one.
 
 option(TARNWELL_SANITIZE "Build with the address and undefined behaviour sanitizers" OFF)
+option(TARNWELL_FUZZ "Build the fuzzers; clang only" OFF)
 
 find_program(CCACHE ccache)
 if(CCACHE)
@@ -15,6 +16,11 @@ target_compile_definitions(tarnwell_compiler INTERFACE
 
 if(CCACHE)
   target_compile_options(tarnwell_compiler INTERFACE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
+endif()
+
+if(TARNWELL_FUZZ)
+  set(TARNWELL_SANITIZE ON)
+  add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 
 if(TARNWELL_SANITIZE)

@@ -11,7 +11,11 @@ namespace {
 
 /// Enough to be of use, few enough for every run of the tests. For a long hunt set TARNWELL_ORDERS, and
 /// TARNWELL_SEED to begin elsewhere or to see one order again.
+#if defined(__SANITIZE_ADDRESS__)
+constexpr int kUsualOrders = 600; // ten to twenty times slower
+#else
 constexpr int kUsualOrders = 2500;
+#endif
 
 int fromEnvironment(const char* name, int otherwise) {
     const char* const text = std::getenv(name);
