@@ -83,14 +83,6 @@ TEST(Tray, TheGesturesOfTheUserAreReported) {
     EXPECT_EQ(reported, QStringList({"double", "right"}));
 }
 
-TEST(Tray, AHostThatTellsNoClicksButThatTheProgramIsWantedIsObeyed) {
-    QtTray tray{QIcon()};
-    int wanted = 0;
-    tray.doubleClicked = [&] { ++wanted; };
-    tray.activated(QSystemTrayIcon::Trigger);
-    EXPECT_EQ(wanted, 1);
-}
-
 TEST(Tray, GesturesThatNobodyListensToAreIgnored) {
     QtTray tray{QIcon()};
     tray.activated(QSystemTrayIcon::DoubleClick);

@@ -108,5 +108,13 @@ TEST(Power, TheSystemsServiceManagerIsFoundByItsName) {
     }
 }
 
+TEST(Tray, AHostThatTellsNoClicksButThatTheProgramIsWantedIsObeyed) {
+    QtTray tray{QIcon()};
+    int wanted = 0;
+    tray.doubleClicked = [&] { ++wanted; };
+    tray.activated(QSystemTrayIcon::Trigger);
+    EXPECT_EQ(wanted, 1);
+}
+
 } // namespace
 } // namespace tarnwell

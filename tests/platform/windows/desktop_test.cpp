@@ -1,6 +1,7 @@
 #include "platform/helpers.h"
 #include "platform/native.h"
 #include "platform/qt/qt_dialogs.h"
+#include "platform/qt/qt_tray.h"
 #include "platform/system_helpers.h"
 #include "platform/windows/windows_power.h"
 #include "platform/windows/windows_taskbar_progress.h"
@@ -202,6 +203,14 @@ TEST_F(TaskbarProgressTest, ASystemWithoutTaskButtonsIsLeftAlone) {
     real->show(100);
     announceButton(main);
     real->clear();
+}
+
+TEST(Tray, ASingleClickIsNoWishToRestore) {
+    QtTray tray{QIcon()};
+    int wanted = 0;
+    tray.doubleClicked = [&] { ++wanted; };
+    tray.activated(QSystemTrayIcon::Trigger);
+    EXPECT_EQ(wanted, 0);
 }
 
 } // namespace
