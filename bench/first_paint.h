@@ -7,12 +7,19 @@
 
 #include <chrono>
 #include <cstdio>
+#include <functional>
 
 namespace tarnwell::bench {
 
 /// Nanoseconds of a clock that all processes share.
 inline double now() {
     return static_cast<double>(std::chrono::steady_clock::now().time_since_epoch().count());
+}
+
+inline double nanosecondsOf(const std::function<void()>& work) {
+    const double begin = now();
+    work();
+    return now() - begin;
 }
 
 /// Of a process by its id, or of this one.

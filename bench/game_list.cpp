@@ -12,8 +12,6 @@ namespace tarnwell::bench {
 
 namespace {
 
-constexpr int kGames = 10'000;
-
 /// The program from the tool's text to painted rows.
 double showGames(ToolUnderTest& tool, QTreeView& view, const QString& table) {
     const double begin = now();
@@ -42,6 +40,7 @@ double showRows(QTreeView& view, QStandardItemModel& model, const std::vector<QS
 
 std::vector<QStringList> rowsOf(const ui::ListView& list) {
     std::vector<QStringList> rows;
+    rows.reserve(static_cast<std::size_t>(list.count()));
     for (int i = 0; i < list.count(); ++i)
         rows.push_back(QStringList(list.row(i).text) + list.row(i).subItems);
     return rows;

@@ -4,6 +4,9 @@
 
 namespace tarnwell::bench {
 
+/// As many as a list of games is measured with.
+constexpr int kGames = 10'000;
+
 /// The tool's table of so many games, one in three on CD.
 inline QString gameTable(int games) {
     QString text = "type   size flags          dma startup      name\r\n";

@@ -10,7 +10,6 @@ namespace tarnwell::bench {
 namespace {
 
 constexpr int kProgressLines = 2000;
-constexpr int kGames = 10'000;
 
 double linesPerSecond(int lines, double begin) {
     return lines / ((now() - begin) / 1e9);

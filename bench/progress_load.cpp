@@ -41,7 +41,7 @@ void progressLoad(int seconds) {
         constexpr double kNanosecondsPerMicrosecond = 1000;
         const double elapsed = (now() - begin) / kNanosecondsPerMicrosecond;
         tool.endJob();
-        if (output.count('%') == kLinesPerSecond * seconds)
+        if (output.count('%') == qsizetype{kLinesPerSecond} * seconds)
             tell({processorMicroseconds() - processorBegin, elapsed});
     });
 }

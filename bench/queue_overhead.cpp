@@ -59,12 +59,6 @@ std::vector<double> takeGaps(const QString& file) {
     return gaps;
 }
 
-double nanosecondsOf(const std::function<void()>& work) {
-    const double begin = now();
-    work();
-    return now() - begin;
-}
-
 } // namespace
 
 void measureQueueOverhead(const FreshProcesses& processes, const Effort& effort, Report& report) {

@@ -27,12 +27,6 @@ const List kLists[] = {{"A game in a list of", {100, 1000, 10'000}, 12},
                        {"A job in a list of", {10, 100, 1000}, 12},
                        {"A device in a list of", {5, 50}, 0}};
 
-double nanosecondsOf(const std::function<void()>& work) {
-    const double begin = now();
-    work();
-    return now() - begin;
-}
-
 /// From the tool's text to painted rows.
 void showGames(ToolUnderTest& tool, QTreeView& view, int games) {
     tool.shared.blnReadTOC = true;

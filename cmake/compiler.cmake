@@ -18,11 +18,6 @@ if(CCACHE)
   target_compile_options(tarnwell_compiler INTERFACE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
 endif()
 
-if(TARNWELL_FUZZ)
-  set(TARNWELL_SANITIZE ON)
-  add_compile_options(-fsanitize=fuzzer-no-link)
-endif()
-
 if(TARNWELL_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)

@@ -11,7 +11,7 @@ namespace simulator {
 namespace {
 
 constexpr const char* kLineEnd = "\r\n";
-constexpr std::size_t kBlockBytes = 4096;
+constexpr std::size_t kWriteBytes = 4096;
 
 } // namespace
 
@@ -19,7 +19,7 @@ Output::Output(const Behaviour& behaviour) : behaviour_(behaviour) {}
 
 void Output::line(const std::string& text) {
     gathered_ += text + kLineEnd;
-    if (gathered_.size() >= kBlockBytes)
+    if (gathered_.size() >= kWriteBytes)
         flush();
 }
 

@@ -245,7 +245,7 @@ QString User::agree() {
 QString User::closeMessage(int button) {
     waitFor("a message", [] { return openDialog<QMessageBox>() != nullptr; });
     auto* const box = look([] { return openDialog<QMessageBox>(); });
-    const QString text = look([&] { return box->text().remove(QChar(0x200B)); });
+    QString text = look([&] { return box->text().remove(QChar(0x200B)); });
     look([&] {
         QAbstractButton* const pressed = box->button(static_cast<QMessageBox::StandardButton>(button));
         if (!pressed)

@@ -48,7 +48,7 @@ QString Workbench::run(const QStringList& arguments) const {
 }
 
 QString Workbench::makeSamples() const {
-    const QString samples = path("samples");
+    QString samples = path("samples");
     runToEnd(builtProgram("tarnwell-samples"), {samples});
     return samples;
 }

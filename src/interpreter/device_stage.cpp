@@ -2,12 +2,12 @@
 
 #include "app/shared.h"
 #include "interpreter/text_primitives.h"
+#include "interpreter/units.h"
 
 namespace tarnwell {
 
 namespace {
 
-constexpr double kMegabytesPerGigabyte = 1024;
 constexpr qsizetype kOpticalNameLength = 4;
 const char kNoGameDisks[] = "There were no game disks found in any of your optical drives.";
 

@@ -2,13 +2,12 @@
 
 #include "app/shared.h"
 #include "interpreter/text_primitives.h"
+#include "interpreter/units.h"
 
 namespace tarnwell {
 
 namespace {
 
-constexpr double kKilobytesPerMegabyte = 1024;
-constexpr double kKilobytesPerGigabyte = 1048576;
 constexpr qsizetype kUnitLength = 2;      ///< "KB"
 constexpr qsizetype kExtensionLength = 4; ///< ".iso"
 constexpr QLatin1String kDualLayer("dual-layer");

@@ -3,13 +3,13 @@
 #include "app/fault.h"
 #include "app/shared.h"
 #include "interpreter/text_primitives.h"
+#include "interpreter/units.h"
 #include "queue/percent_bar.h"
 
 namespace tarnwell {
 
 namespace {
 
-constexpr double kMegabytesPerGigabyte = 1024;
 const char kDiskWithoutSize[] =
     "tarnwell reports a disk with no space at all. Refresh the device, and check the disk "
     "if this happens again.";

@@ -4,12 +4,11 @@
 #include "app/shared.h"
 #include "interpreter/free_space_stage.h"
 #include "interpreter/text_primitives.h"
+#include "interpreter/units.h"
 
 namespace tarnwell {
 
 namespace {
-
-constexpr double kKilobytesPerGigabyte = 1048576;
 
 const char kConsoleNotFound[] = "The PS2 console could not be found at the IP address entered. Make sure "
                                 "that the console has tarnd_svr.elf running "

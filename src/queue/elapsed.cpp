@@ -10,9 +10,9 @@ QString FormatElapsed(qint32 milliseconds, const Clock& clock) {
         return "00:00:00";
     const qint32 seconds = milliseconds / 1000;
     const qint32 hours = seconds / 3600;
-    const qint32 rest = seconds % 3600;
-    return FormatNumber(hours, "00") + ':' + FormatNumber(rest / 60, "00") + ':' +
-           FormatNumber(rest % 60, "00");
+    const qint32 minutes = seconds / 60 % 60;
+    return FormatNumber(hours, "00") + ':' + FormatNumber(minutes, "00") + ':' +
+           FormatNumber(seconds % 60, "00");
 }
 
 } // namespace tarnwell

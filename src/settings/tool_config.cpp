@@ -32,7 +32,7 @@ QString readAll(const QString& path) {
     // The second way makes the file if it is missing.
     if (!file.open(QIODevice::ReadOnly) && !file.open(QIODevice::ReadWrite))
         throw unreadable(path, file.errorString());
-    const QString text = QString::fromLocal8Bit(file.read(kMostCharacters * kMostBytesACharacter + 1));
+    QString text = QString::fromLocal8Bit(file.read(kMostCharacters * kMostBytesACharacter + 1));
     if (file.error() != QFileDevice::NoError)
         throw unreadable(path, file.errorString());
     if (text.size() > kMostCharacters)
@@ -64,7 +64,7 @@ void ToolConfig::LoadToolSettings() {
 }
 
 void ToolConfig::SaveToolSettings() {
-    const QString text = WriteToolConfig(folder(), shared_.frmSettings.untouched(), shared_.frmMain);
+    QString text = WriteToolConfig(folder(), shared_.frmSettings.untouched(), shared_.frmMain);
     ReplaceFile(pathIn(folder()), text.toLocal8Bit());
 }
 

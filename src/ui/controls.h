@@ -61,6 +61,7 @@ public:
     Event<> Change;
     Event<> Click;
     Event<> GotFocus;
+    static constexpr int kEnterKey = 13;
     /// The character code of the key; a handler that sets it to 0 swallows the key.
     Event<int&> KeyPress;
     /// From here on what the user types goes to this box.

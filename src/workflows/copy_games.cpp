@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kTypeColumn = 2; // of the columns behind the label
 
-const QString kImageFilter = QStringLiteral("ISO Files (*.iso)|*.iso|All Files (*.*)|*.*|");
+const QString kIsoFiles = QStringLiteral("ISO Files (*.iso)|*.iso|All Files (*.*)|*.*|");
 
 QString proposedFileName(const QString& game) {
     return game.mid(game.lastIndexOf('\\') + 1) + ".iso";
@@ -31,7 +31,7 @@ void CopyGames::copyToPc() {
     const auto game = focusedGame();
     if (!game || severalSelected())
         return;
-    const auto path = shared_.ports.dialogs.saveFile({.filter = kImageFilter,
+    const auto path = shared_.ports.dialogs.saveFile({.filter = kIsoFiles,
                                                       .folder = shared_.config.text("DefaultISO"),
                                                       .fileName = proposedFileName(game->name),
                                                       .extension = "iso"});

@@ -9,7 +9,7 @@ namespace tarnwell {
 namespace {
 
 /// The disk comes to rest before the next command.
-constexpr double kPauseSeconds = 1;
+constexpr double kRestSeconds = 1;
 
 /// Every name is followed by the separator, the last one too.
 QString listed(const QStringList& names, const QString& separator) {
@@ -44,7 +44,7 @@ void DeleteGames::deleteNow() {
         const QString device = ActiveDeviceShort(shared_.frmMain);
         for (const QString& game : games) {
             channel_.Tarn_Execute(DeleteCommand(device, game));
-            WaitSeconds(kPauseSeconds, shared_.ports);
+            WaitSeconds(kRestSeconds, shared_.ports);
         }
         shared_.frmMain.cmdAttach.Click();
     }

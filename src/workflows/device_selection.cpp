@@ -10,7 +10,6 @@ namespace tarnwell {
 
 namespace {
 
-constexpr int kEnterKey = 13;
 constexpr int kNarrowRefresh = 1215; // beside the shutdown button
 constexpr int kWideRefresh = 2175;   // over its place too
 
@@ -136,7 +135,7 @@ void DeviceSelection::changeAddress() {
 }
 
 void DeviceSelection::pressKeyInAddress(int& key) {
-    if (key != kEnterKey)
+    if (key != ui::TextBox::kEnterKey)
         return;
     key = 0;
     refresh();

@@ -8,11 +8,10 @@ namespace tarnwell {
 
 namespace {
 
-constexpr int kEnterKey = 13;
 constexpr int kDvdRom = 1;
 constexpr std::size_t kClearedFlags = 7;
 
-const QString kImageFilter = QStringLiteral(
+const QString kInstallableImages = QStringLiteral(
     "ISO Files (*.iso)|*.iso|Nero Burning Image (*.nrg)|*.nrg|RecordNow! Global Image (*.gi)|*.gi|"
     "Sony CD/DVD Generator's Intermediate (*.iml)|*.iml|");
 
@@ -87,7 +86,7 @@ void InstallSource::browse() {
     if (!requireTool(shared_))
         return;
     const auto path = shared_.ports.dialogs.openFile(
-        {.filter = kImageFilter, .folder = shared_.config.text("DefaultISO"), .mustExist = true});
+        {.filter = kInstallableImages, .folder = shared_.config.text("DefaultISO"), .mustExist = true});
     if (path && !path->isEmpty())
         readImage(*path);
     else
@@ -131,7 +130,7 @@ void InstallSource::openFlagsMenu() {
 }
 
 void InstallSource::pressKeyInName(int& key) {
-    if (key != kEnterKey)
+    if (key != ui::TextBox::kEnterKey)
         return;
     key = 0;
     shared_.frmMain.cmdAddGame.Click();

@@ -12,7 +12,7 @@ namespace tarnwell {
 namespace {
 
 /// The tool is given the same command for all of them: the kind is nothing but the name's ending.
-const QString kImageFilter =
+const QString kImageKinds =
     QStringLiteral("ISO Files (*.iso)|*.iso|CUE Files (*.cue)|*.cue|Nero Burning Image (*.nrg)|*.nrg|"
                    "RecordNow! Global Image (*.gi)|*.gi|"
                    "Sony CD/DVD Generator's Intermediate (*.iml)|*.iml|");
@@ -31,7 +31,7 @@ void MakeIso::makeIso() {
         shared_.message("Please enter a name for the game.");
         return;
     }
-    const auto path = shared_.ports.dialogs.saveFile({.filter = kImageFilter,
+    const auto path = shared_.ports.dialogs.saveFile({.filter = kImageKinds,
                                                       .folder = shared_.config.text("DefaultISO"),
                                                       .fileName = name + ".iso",
                                                       .extension = "*.iso",

@@ -12,7 +12,7 @@ namespace tarnwell::test {
 
 namespace {
 
-const char kConnection[] = "login manager";
+const char kManagerConnection[] = "login manager";
 const char kService[] = "org.freedesktop.login1";
 
 bool hasWriter(int lock) {
@@ -24,14 +24,14 @@ bool hasWriter(int lock) {
 } // namespace
 
 LoginManager::LoginManager(const QByteArray& busAddress)
-    : bus_(QDBusConnection::connectToBus(busAddress, kConnection)) {
+    : bus_(QDBusConnection::connectToBus(busAddress, kManagerConnection)) {
     if (!bus_.registerVirtualObject("/org/freedesktop/login1", this) || !bus_.registerService(kService))
         throw std::runtime_error("no place on the bus for a login manager");
 }
 
 LoginManager::~LoginManager() {
     bus_.unregisterService(kService);
-    QDBusConnection::disconnectFromBus(kConnection);
+    QDBusConnection::disconnectFromBus(kManagerConnection);
     for (const int lock : locks_)
         ::close(lock);
 }

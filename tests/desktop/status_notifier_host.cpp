@@ -11,7 +11,7 @@ namespace tarnwell::test {
 
 namespace {
 
-const char kConnection[] = "status notifier host";
+const char kHostConnection[] = "status notifier host";
 const char kWatcher[] = "org.kde.StatusNotifierWatcher";
 const char kItem[] = "org.kde.StatusNotifierItem";
 const char kItemPath[] = "/StatusNotifierItem";
@@ -44,7 +44,7 @@ void collect(const QDBusArgument& entry, std::vector<StatusNotifierHost::Entry>&
 } // namespace
 
 StatusNotifierHost::StatusNotifierHost(const QByteArray& busAddress)
-    : bus_(QDBusConnection::connectToBus(busAddress, kConnection)) {
+    : bus_(QDBusConnection::connectToBus(busAddress, kHostConnection)) {
     const bool ready = bus_.registerVirtualObject("/StatusNotifierWatcher", this) &&
                        bus_.registerVirtualObject("/org/freedesktop/Notifications", this) &&
                        bus_.registerService(kWatcher) && bus_.registerService(kNotifications);
@@ -53,7 +53,7 @@ StatusNotifierHost::StatusNotifierHost(const QByteArray& busAddress)
 }
 
 StatusNotifierHost::~StatusNotifierHost() {
-    QDBusConnection::disconnectFromBus(kConnection);
+    QDBusConnection::disconnectFromBus(kHostConnection);
 }
 
 QString StatusNotifierHost::introspect(const QString& path) const {
@@ -117,7 +117,7 @@ QList<QSize> StatusNotifierHost::pictures() const {
         all.beginStructure();
         all >> width >> height >> bytes;
         all.endStructure();
-        if (bytes.size() == width * height * 4)
+        if (bytes.size() == qsizetype{4} * width * height)
             sizes += QSize(width, height);
     }
     all.endArray();

@@ -106,7 +106,7 @@ TEST_F(StatusPage, ABrowserFollowsAQueueFromReloadToReload) {
             EXPECT_TRUE(row(document, "Time Remaining").contains("remaining"));
             EXPECT_TRUE(row(document, "Transfer Speed").endsWith("MB/sec"));
             EXPECT_EQ(row(document, "Job Status"), "Job 1 of 2");
-            EXPECT_NEAR(percent(document, 1), percent(document) / 2, 1);
+            EXPECT_NEAR(percent(document, 1), percent(document) / 2.0, 1);
             EXPECT_TRUE(row(document, "Elapsed Time", 1).startsWith("00:00:"));
         }
         EXPECT_GE(percent(second), percent(first) + 5);

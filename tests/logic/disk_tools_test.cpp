@@ -34,7 +34,7 @@ protected:
         EXPECT_EQ(frmSettings.cmdRestoreTOC.enabled, table);
     }
     /// What happens while the tool carries out this command.
-    void during(const QString& command, std::function<void()> event) {
+    void during(const QString& command, const std::function<void()>& event) {
         ports.launcher.on("tarnwell.exe " + command,
                           ChildScript{.output = {{"Working\r\n"}}, .endsAtMs = 500});
         ports.launcher.script = [this, command, event, usual = ports.launcher.script](const QString& line) {

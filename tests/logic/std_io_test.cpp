@@ -56,7 +56,7 @@ TEST_F(StdIOTest, OutputThatWaitsWhenTheProgramHasGoneArrivesAllTheSame) {
 }
 
 TEST_F(StdIOTest, ReadsOnePieceAPassWhileTheProgramRuns) {
-    program({.output = {{QByteArray(3 * 4096, 'x'), 0}}, .endsAtMs = 1000});
+    program({.output = {{QByteArray(qsizetype{3} * 4096, 'x'), 0}}, .endsAtMs = 1000});
     std::vector<qint64> times;
     StdIO.GotData = [&](const QString&) { times.push_back(ports.clock.now); };
     StdIO.ExecuteCommand("tool");

@@ -148,7 +148,7 @@ TEST_F(ToolChannelTest, DuringAnInstallBothElapsedTimesAreTheSame) {
 TEST_F(ToolChannelTest, DuringAQueueTheOverallTimeCountsFromItsStart) {
     shared.blnQueueRunning = true;
     shared.lQueueStartTick = ports.clock.tickCount();
-    ports.clock.now += 3600 * 1000;
+    ports.clock.now += 3'600'000;
     shared.lJobStartTick = ports.clock.tickCount();
     ports.launcher.on("inject", ChildScript{.output = {{"5%\r", 2000}}, .endsAtMs = 2000});
     channel.Tarn_Command("inject");

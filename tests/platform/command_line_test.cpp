@@ -51,7 +51,7 @@ TEST(SplitArguments, NothingIsEscaped) {
 class SplitCommandLine : public testing::Test {
 protected:
     QString file(const QString& name) {
-        const QString path = folder_.filePath(name);
+        QString path = folder_.filePath(name);
         QDir().mkpath(QFileInfo(path).path());
         QFile made(path);
         EXPECT_TRUE(made.open(QFile::WriteOnly));

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 
+#include <deque>
 #include <sys/socket.h>
 
 namespace tarnwell {
@@ -259,7 +260,7 @@ TEST_F(RealHttpListener, TwoHundredClientsAtOnceLeaveTheLastOneServed) {
 }
 
 TEST_F(RealHttpListener, NobodyCanUseUpTheFilesOfTheProgram) {
-    std::vector<std::unique_ptr<Client>> clients;
+    std::deque<std::unique_ptr<Client>> clients;
     for (int i = 0; i < QtHttpListener::kMostConnections + 10; ++i)
         clients.push_back(std::make_unique<Client>());
     EXPECT_TRUE(clients[9]->isClosed());

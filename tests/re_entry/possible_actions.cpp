@@ -6,7 +6,6 @@ namespace tarnwell::test {
 
 namespace {
 
-constexpr int kEnterKey = 13;
 constexpr int kLeftButton = 1, kRightButton = 2;
 const char* const kTexts[] = {"", " ", "192.168.0.10", "10.0.0.9", "Some Game", "\"quoted\" name", "+1"};
 
@@ -111,7 +110,7 @@ void PossibleActions::addTextBox(ui::TextBox& box) {
     if (!box.readOnly && random_.oneIn(2))
         add("type \"" + text + "\" into " + box.name, [&box, text] { ui::type(box, text); });
     else if (!box.readOnly)
-        add("Enter in " + box.name, [&box] { ui::pressKey(box, kEnterKey); });
+        add("Enter in " + box.name, [&box] { ui::pressKey(box, ui::TextBox::kEnterKey); });
     else if (random_.oneIn(4))
         add("focus and click " + box.name, [&box] { ui::focus(box), ui::click(box); });
 }

@@ -13,10 +13,11 @@ constexpr int kPatience = 1'000'000;
 
 template <class Answer>
 std::optional<Answer> take(std::deque<std::optional<Answer>>& answers) {
-    if (answers.empty())
-        return std::nullopt;
-    const std::optional<Answer> answer = answers.front();
-    answers.pop_front();
+    std::optional<Answer> answer;
+    if (!answers.empty()) {
+        answer = std::move(answers.front());
+        answers.pop_front();
+    }
     return answer;
 }
 
@@ -30,7 +31,7 @@ public:
 
     QByteArray read(qsizetype maximum) override {
         collect();
-        const QByteArray taken = waiting_.left(maximum);
+        QByteArray taken = waiting_.left(maximum);
         waiting_.remove(0, taken.size());
         return taken;
     }

@@ -33,7 +33,7 @@ struct SettingsTest : ProgramTest {
     }
     /// A new folder of this name, with a separator at its end.
     QString makeFolder(const QString& name, bool withConf = false) {
-        const QString folder = path(name) + QDir::separator();
+        QString folder = path(name) + QDir::separator();
         QDir().mkpath(folder);
         if (withConf)
             writeTo(folder + "tarnwell.conf", "");

@@ -7,8 +7,8 @@ using namespace tarnwell::ui;
 
 namespace {
 
-struct SampleForm : Form {
-    SampleForm() : Form("frmSample", {.caption = "Sample"}) {}
+struct ControlsForm : Form {
+    ControlsForm() : Form("frmSample", {.caption = "Sample"}) {}
     Frame fmLeft{*this, "fmLeft"};
     Frame fmRight{*this, "fmRight"};
     OptionButton optOne{*this, "optOne", {.in = &fmLeft, .value = 1}};
@@ -22,7 +22,7 @@ struct SampleForm : Form {
 };
 
 struct ControlTest : testing::Test {
-    SampleForm form;
+    ControlsForm form;
     int clicks = 0;
     const std::function<void()> count = [this] { ++clicks; };
 };

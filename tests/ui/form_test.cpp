@@ -8,8 +8,8 @@ using namespace tarnwell::ui;
 
 namespace {
 
-struct SampleForm : Form {
-    SampleForm() : Form("frmSample", {.caption = "Sample"}) {
+struct CountingForm : Form {
+    CountingForm() : Form("frmSample", {.caption = "Sample"}) {
         Load = [this] { ++loads; };
     }
     Label lblSample{*this, "lblSample", {.caption = "start", .enabled = false}};
@@ -23,7 +23,7 @@ struct SampleForm : Form {
 } // namespace
 
 TEST(Form, LoadsOnceHoweverOftenItIsTouched) {
-    LoadedOnTouch<SampleForm> form;
+    LoadedOnTouch<CountingForm> form;
     EXPECT_FALSE(form.untouched().loaded());
     form->lblSample.caption = QString("touched");
     form->lblSample.caption = QString("again");
@@ -33,7 +33,7 @@ TEST(Form, LoadsOnceHoweverOftenItIsTouched) {
 }
 
 TEST(Form, ShowingLoadsAndHidingKeepsItLoaded) {
-    SampleForm form;
+    CountingForm form;
     form.show();
     EXPECT_TRUE(form.shown());
     form.hide();
@@ -43,7 +43,7 @@ TEST(Form, ShowingLoadsAndHidingKeepsItLoaded) {
 }
 
 TEST(Form, UnloadingBringsEveryControlBackToItsStart) {
-    SampleForm form;
+    CountingForm form;
     form.show();
     form.caption = QString("other");
     form.lblSample.caption = QString("other");
@@ -72,7 +72,7 @@ TEST(Form, UnloadingBringsEveryControlBackToItsStart) {
 }
 
 TEST(Form, AHandlerCanRefuseToUnload) {
-    SampleForm form;
+    CountingForm form;
     form.show();
     form.lblSample.caption = QString("kept");
     form.Unload = [](bool& cancel) { cancel = true; };
@@ -82,7 +82,7 @@ TEST(Form, AHandlerCanRefuseToUnload) {
 }
 
 TEST(Form, ARefusedQueryDoesNotReachUnload) {
-    SampleForm form;
+    CountingForm form;
     form.load();
     int unloads = 0;
     form.QueryUnload = [](bool& cancel) { cancel = true; };
@@ -92,7 +92,7 @@ TEST(Form, ARefusedQueryDoesNotReachUnload) {
 }
 
 TEST(Form, UnloadingItselfInItsUnloadHandlerDoesNothingMore) {
-    SampleForm form;
+    CountingForm form;
     form.load();
     int unloads = 0;
     form.Unload = [&](bool&) {
@@ -104,7 +104,7 @@ TEST(Form, UnloadingItselfInItsUnloadHandlerDoesNothingMore) {
 }
 
 TEST(Form, UnloadingWhatIsNotLoadedRunsNothing) {
-    SampleForm form;
+    CountingForm form;
     int unloads = 0;
     form.Unload = [&](bool&) { ++unloads; };
     EXPECT_TRUE(form.unload());
@@ -112,7 +112,7 @@ TEST(Form, UnloadingWhatIsNotLoadedRunsNothing) {
 }
 
 TEST(Form, StandsInTheMiddleOfAnotherWithoutBeingLoaded) {
-    SampleForm form, other;
+    CountingForm form, other;
     form.width = 200;
     form.height = 100;
     other.left = 1000;

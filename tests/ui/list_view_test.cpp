@@ -8,8 +8,8 @@ using namespace tarnwell::ui;
 
 namespace {
 
-struct SampleForm : Form {
-    SampleForm() : Form("frmSample", {}) {}
+struct ListsForm : Form {
+    ListsForm() : Form("frmSample", {}) {}
     ListView lstOne{*this, "lstOne"};
     ListView lstMany{*this, "lstMany", {.multiSelect = true}};
 };
@@ -21,7 +21,7 @@ struct ListViewTest : testing::Test {
             form.lstMany.append({.text = text});
         }
     }
-    SampleForm form;
+    ListsForm form;
 };
 
 } // namespace

@@ -7,8 +7,8 @@ using namespace tarnwell::ui;
 
 namespace {
 
-struct SampleForm : Form {
-    SampleForm() : Form("frmSample", {}) {}
+struct UserForm : Form {
+    UserForm() : Form("frmSample", {}) {}
     Button cmdSample{*this, "cmdSample"};
     Label lblSample{*this, "lblSample"};
     Label lblLink{*this, "lblLink", {.link = true}};
@@ -26,7 +26,7 @@ struct SampleForm : Form {
 
 struct UserActions : testing::Test {
     UserActions() { form.show(); }
-    SampleForm form;
+    UserForm form;
     int calls = 0;
     const std::function<void()> count = [this] { ++calls; };
 };

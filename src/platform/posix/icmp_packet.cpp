@@ -9,6 +9,7 @@ namespace {
 constexpr char kEchoRequest = 8;
 constexpr char kEchoReply = 0;
 
+constexpr qsizetype kBytesPerWord = 4; // in which an IP header counts its length
 constexpr qsizetype kHeaderBytes = 8;
 constexpr qsizetype kTypeOffset = 0;
 constexpr qsizetype kCodeOffset = 1;
@@ -46,8 +47,8 @@ QByteArray withoutIpHeader(const QByteArray& datagram) {
     if (datagram.isEmpty()) {
         return {};
     }
-    const qsizetype headerBytes = (datagram[0] & 0x0F) * 4; // counted in words of 32 bits
-    return datagram.mid(headerBytes);
+    const qsizetype headerWords = datagram[0] & 0x0F;
+    return datagram.mid(headerWords * kBytesPerWord);
 }
 
 quint16 checksum(const QByteArray& bytes) {

@@ -66,7 +66,7 @@ public:
     QByteArray called() const {
         QFile file(path_ + ".called");
         EXPECT_TRUE(test::pumpUntil([&] { return file.exists(); }));
-        const QByteArray arguments = file.open(QFile::ReadOnly) ? file.readAll().trimmed() : QByteArray();
+        QByteArray arguments = file.open(QFile::ReadOnly) ? file.readAll().trimmed() : QByteArray();
         file.remove();
         return arguments;
     }
