@@ -44,9 +44,15 @@ constexpr Default kDefaults[] = {
     {"TasksSound", "[none selected]"},
 };
 
-IniText load(const QString& path) {
+/// A missing file is an empty one. Nothing if it is there but cannot be read at this moment.
+std::optional<IniText> load(const QString& path) {
     QFile file(path);
-    return IniText(file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray());
+    if (!file.open(QIODevice::ReadOnly))
+        return file.exists() ? std::nullopt : std::optional(IniText(QByteArray()));
+    const QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        return std::nullopt;
+    return IniText(bytes);
 }
 
 } // namespace
@@ -90,10 +96,12 @@ QString ConfigStore::defaultText(const QString& key) {
 }
 
 void ConfigStore::WriteDefaultConfig() const {
-    IniText ini = load(path());
+    std::optional<IniText> ini = load(path());
+    if (!ini)
+        return;
     for (const auto& [key, value] : kDefaults)
-        ini.setValue(kSection.toLocal8Bit(), key, value);
-    TryToReplaceFile(path(), ini.bytes());
+        ini->setValue(kSection.toLocal8Bit(), key, value);
+    TryToReplaceFile(path(), ini->bytes());
 }
 
 bool FileExists(const QString& path) {
@@ -113,17 +121,20 @@ QString WithSeparator(const QString& folder) {
 }
 
 QString ConfigRead(const QString& section, const QString& key, const QString& path) {
-    const auto value = load(path).value(section.toLocal8Bit(), key.toLocal8Bit());
+    const std::optional<IniText> ini = load(path);
+    const auto value = ini ? ini->value(section.toLocal8Bit(), key.toLocal8Bit()) : std::nullopt;
     return QString::fromLocal8Bit(value.value_or(QByteArray())).left(kLongestValue);
 }
 
 void ConfigWrite(const QString& section, const QString& key, const QString& value, const QString& path) {
-    IniText ini = load(path);
-    const QByteArray before = ini.bytes();
-    ini.setValue(section.toLocal8Bit(), key.toLocal8Bit(), value.toLocal8Bit());
+    std::optional<IniText> ini = load(path);
+    if (!ini)
+        return; // one setting is not worth all the others
+    const QByteArray before = ini->bytes();
+    ini->setValue(section.toLocal8Bit(), key.toLocal8Bit(), value.toLocal8Bit());
     // Replacing a file waits for the disk, and settings are mostly written as they stand.
-    if (ini.bytes() != before)
-        TryToReplaceFile(path, ini.bytes());
+    if (ini->bytes() != before)
+        TryToReplaceFile(path, ini->bytes());
 }
 
 } // namespace tarnwell
