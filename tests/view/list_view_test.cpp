@@ -150,7 +150,9 @@ TEST_F(GameList, UntouchedLabelIsAnEditTooUnlessItIsLeftByEscape) {
     EXPECT_EQ(asked, 1);
 }
 
-TEST_F(GameList, RightPressSelectsTheRowAndIsTold) {
+TEST_F(GameList, ARightPressIsAboutTheSelectedRowNotTheOneUnderThePointer) {
+    QTest::mouseClick(view().viewport(), Qt::LeftButton, {}, inRow(2));
+    serveEvents();
     int button = 0, rowThen = -1;
     form.lstHD.MouseDown = [&](int pressed) {
         button = pressed;
@@ -159,7 +161,8 @@ TEST_F(GameList, RightPressSelectsTheRowAndIsTold) {
     QTest::mousePress(view().viewport(), Qt::RightButton, {}, inRow(6));
     serveEvents();
     EXPECT_EQ(button, 2);
-    EXPECT_EQ(rowThen, 6);
+    EXPECT_EQ(rowThen, 2);
+    EXPECT_EQ(view().currentIndex().row(), 2);
 }
 
 TEST_F(GameList, ColumnsHaveTheirScaledWidths) {

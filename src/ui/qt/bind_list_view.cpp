@@ -191,12 +191,12 @@ void reportPresses(ui::ListView& list, QTreeView& view) {
             return false;
         const auto button = static_cast<QMouseEvent&>(event).button();
         if (button == Qt::LeftButton || button == Qt::RightButton) {
-            // After the view has selected the row under the pointer.
             const int number = button == Qt::LeftButton ? 1 : 2;
             QMetaObject::invokeMethod(
                 &view, [&list, number] { ui::pressMouse(list, number); }, Qt::QueuedConnection);
         }
-        return false;
+        // The right button is about the row that is selected, and selects none itself.
+        return button == Qt::RightButton;
     });
 }
 
