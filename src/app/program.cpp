@@ -68,7 +68,7 @@ void Program::layOutMain() {
     const auto screen = shared_.ports.windows.screenSize();
     frmMain.left = screen.width / 2 - frmMain.width / 2;
     frmMain.top = screen.height / 2 - frmMain.height / 2;
-    frmMain.chkOutput.value = shared_.config.number("ViewOutput");
+    frmMain.chkOutput.value = shared_.config.number("ViewOutput") == 1 ? 1 : 0;
     frmMain.cmbType.listIndex = 1;
     const QString address = shared_.config.text("IP");
     frmMain.txtIP.text = address.isEmpty() ? kFirstAddress : address;

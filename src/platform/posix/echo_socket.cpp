@@ -55,9 +55,11 @@ public:
                message.size();
     }
 
+    /// Also true if a signal, such as that of a child's end, has cut the wait short.
     bool waitReadable(int timeoutMs) const {
         pollfd waiting{descriptor_, POLLIN, 0};
-        return ::poll(&waiting, 1, timeoutMs) > 0;
+        const int found = ::poll(&waiting, 1, timeoutMs);
+        return found > 0 || (found < 0 && errno == EINTR);
     }
 
     /// Nothing on failure, which errno tells.
