@@ -91,21 +91,38 @@ void DeviceSelection::refresh() {
     frmMain.cmdAddGame.enabled = false;
     frmMain.cmdInstall.enabled = false;
     const Hourglass hourglass(frmMain);
-    if (frmMain.optLAN.value) {
+    const bool onNetwork = frmMain.optLAN.value;
+    if (onNetwork) {
         // A networked console too has the local disks as targets of a copy.
         const int chosen = frmMain.cmbHD.listIndex;
         queryDisks();
         chooseDiskAgain(chosen);
     }
+    if (frmMain.optLAN.value != onNetwork)
+        return; // the user has changed over meanwhile
     const AwaitedAnswer gameList(shared_.blnReadTOC);
-    if (frmMain.optLocal.value || ConsoleAnswers(shared_, frmMain.txtIP.text))
+    if (!onNetwork || ConsoleAnswers(shared_, frmMain.txtIP.text))
         readGameList();
     else
         shared_.blnReadTOC = false;
 }
 
 void DeviceSelection::readGameList() {
-    interpreter_.ParseToolOutput(channel_.Tarn_Command(GameListCommand(ActiveDeviceLong(shared_.frmMain))));
+    const ui::FrmMain& frmMain = shared_.frmMain;
+    const bool onNetwork = frmMain.optLAN.value;
+    const QString address = frmMain.txtIP.text;
+    const auto deviceChanged = [&] {
+        return frmMain.optLAN.value != onNetwork || frmMain.txtIP.text != address;
+    };
+    const QString answer = channel_.Tarn_Command(GameListCommand(ActiveDeviceLong(frmMain)));
+    if (!deviceChanged())
+        interpreter_.ParseToolOutput(answer);
+    // The games of one device must not stand there, ready to be deleted, beside the address of another.
+    // Drawing the bar in the middle of the reading lets events in as well.
+    if (deviceChanged()) {
+        resetDevice();
+        shared_.blnReadTOC = false;
+    }
     // After a failed job the answer was taken for that job's. The question must not stay open: the progress
     // of the next job would be withheld as part of the answer.
     if (shared_.jobRunning())

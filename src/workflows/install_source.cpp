@@ -35,6 +35,7 @@ InstallSource::InstallSource(Shared& shared, ToolChannel& channel, OutputInterpr
 }
 
 void InstallSource::chooseIso() {
+    forgetQuestion();
     ui::FrmMain& frmMain = shared_.frmMain;
     frmMain.cmbOptical.listIndex = -1;
     frmMain.cmbOptical.enabled = false;
@@ -51,6 +52,7 @@ void InstallSource::chooseIso() {
 void InstallSource::chooseOptical() {
     if (!requireTool(shared_))
         return;
+    forgetQuestion();
     ui::FrmMain& frmMain = shared_.frmMain;
     frmMain.txtISO.text = QString();
     frmMain.txtISO.enabled = false;
@@ -108,6 +110,7 @@ void InstallSource::readImage(const QString& path) {
 }
 
 void InstallSource::forgetImage() {
+    forgetQuestion();
     ui::FrmMain& frmMain = shared_.frmMain;
     frmMain.txtISO.text = QString();
     frmMain.txtGameName.text = QString();
@@ -119,7 +122,15 @@ void InstallSource::forgetImage() {
 
 void InstallSource::askForDiscInfo(const QString& command) {
     const Hourglass hourglass(shared_.frmMain);
-    interpreter_.ParseToolOutput(channel_.Tarn_Command(command));
+    const QString answer = channel_.Tarn_Command(command);
+    interpreter_.ParseToolOutput(answer);
+    if (answer.isEmpty())
+        forgetQuestion();
+}
+
+void InstallSource::forgetQuestion() {
+    // What the tool still says about one source must not be taken for what it says about another.
+    shared_.blnDiscInfo = false;
 }
 
 void InstallSource::openFlagsMenu() {

@@ -20,6 +20,7 @@ private:
     void readImage(const QString& path);
     void forgetImage();
     void askForDiscInfo(const QString& command);
+    void forgetQuestion();
     void openFlagsMenu();
     void pressKeyInName(int& key);
 

@@ -143,6 +143,48 @@ TEST_F(DeviceSelection, ChoosingADiskKeepsTheOldGameListOnView) {
     EXPECT_EQ(deviceGroup().size(), 7);
 }
 
+TEST_F(DeviceSelection, AListThatComesAfterGoingToTheConsoleIsNotTakenForItsGames) {
+    ui::click(frmMain.optLocal);
+    ports.launcher.on("tarnwell.exe tarn_toc", {.output = {{kTwoGames, 400}}, .endsAtMs = 500});
+    ports.pump.after(100, [this] { ui::click(frmMain.optLAN); });
+    ui::click(frmMain.cmdAttach);
+    EXPECT_EQ(frmMain.lstHD.count(), 0);
+    EXPECT_EQ(deviceGroup(), QStringList());
+    EXPECT_EQ(frmMain.lblDiskSpace.caption.get(), "(no active device)");
+    EXPECT_FALSE(program.shared().blnReadTOC);
+}
+
+TEST_F(DeviceSelection, AListThatComesAfterAChangeOfTheAddressIsNotTakenForThatConsoles) {
+    ports.launcher.on("tarnwell.exe tarn_toc", {.output = {{kTwoGames, 400}}, .endsAtMs = 500});
+    ports.pump.after(100, [this] { ui::type(frmMain.txtIP, "192.168.0.1"); });
+    ui::click(frmMain.cmdAttach);
+    EXPECT_EQ(commands().last(), "tarn_toc 192.168.0.10");
+    EXPECT_EQ(frmMain.lstHD.count(), 0);
+    EXPECT_EQ(deviceGroup(), QStringList());
+    EXPECT_FALSE(program.shared().blnReadTOC);
+}
+
+TEST_F(DeviceSelection, ChoosingAnotherDiskDuringARefreshShowsTheGamesOfTheFirst) {
+    ui::click(frmMain.optLocal);
+    ports.launcher.on("tarnwell.exe tarn_toc", {.output = {{kTwoGames, 400}}, .endsAtMs = 500});
+    ports.pump.after(100, [this] { ui::choose(frmMain.cmbHD, 1); });
+    ui::click(frmMain.cmdAttach);
+    EXPECT_EQ(frmMain.lstHD.count(), 2);
+    EXPECT_EQ(deviceGroup().size(), 7);
+}
+
+TEST_F(DeviceSelection, GoingToTheLocalDisksBeforeAConsoleWasAskedForItsGamesAsksForNone) {
+    answerQueryWith({});
+    ports.pump.after(1000, [this] {
+        answerQueryWith(kTwoDisks);
+        ui::click(frmMain.optLocal);
+    });
+    ui::click(frmMain.cmdAttach);
+    EXPECT_TRUE(frmMain.optLocal.value);
+    EXPECT_EQ(commands().filter("tarn_toc"), QStringList());
+    EXPECT_EQ(deviceGroup(), QStringList());
+}
+
 TEST_F(DeviceSelection, LocalWithoutTheToolFallsBackToLan) {
     removeTool();
     ui::click(frmMain.optLocal);

@@ -59,6 +59,41 @@ TEST_F(InstallSource, PickingAnImageFillsThePage) {
     EXPECT_EQ(frmMain.mousePointer, ui::MousePointer::Default);
 }
 
+TEST_F(InstallSource, ADiscThatIsReadAfterGoingBackToImagesFillsNothing) {
+    answerDiscInfoWith({});
+    ports.launcher.on("tarnwell.exe cdvd_info2", {.output = {{kDvd, 400}}, .endsAtMs = 500});
+    ports.pump.after(100, [this] { ui::click(frmMain.optISO); });
+    ui::click(frmMain.optOptical);
+    EXPECT_EQ(commands().last(), "cdvd_info2 E:");
+    EXPECT_EQ(frmMain.txtGameName.text.get(), "");
+    EXPECT_EQ(frmMain.txtGameSize.text.get(), "");
+}
+
+TEST_F(InstallSource, ADiscThatIsStillBeingReadIsNotTakenForAnImage) {
+    ports.launcher.on("tarnwell.exe cdvd_info2", {.output = {{kDvd, 400}}, .endsAtMs = 500});
+    ports.pump.after(100, [this] {
+        ui::click(frmMain.optISO);
+        pick("/games/other.iso");
+    });
+    ui::click(frmMain.optOptical);
+    EXPECT_TRUE(lastMessage().startsWith("An unknown error has occurred.")) << "the tool was busy";
+    EXPECT_EQ(frmMain.txtISO.text.get(), "/games/other.iso");
+    EXPECT_EQ(frmMain.txtGameName.text.get(), "");
+    EXPECT_EQ(frmMain.txtGameStartup.text.get(), "");
+    EXPECT_FALSE(program.shared().blnDiscInfo);
+}
+
+TEST_F(InstallSource, AnImageThatIsGivenUpWhileItIsReadFillsNothing) {
+    ports.launcher.on("tarnwell.exe cdvd_info2", {.output = {{kDvd, 400}}, .endsAtMs = 500});
+    ports.pump.after(100, [this] {
+        ports.dialogs.openFileAnswers.emplace_back(std::nullopt);
+        ui::click(frmMain.cmdISO);
+    });
+    pick("/games/a.iso");
+    EXPECT_EQ(frmMain.txtISO.text.get(), "");
+    EXPECT_EQ(frmMain.txtGameName.text.get(), "");
+}
+
 TEST_F(InstallSource, ALongPathShowsItsEnd) {
     pick("/games/" + QString(300, 'x') + "/My Game.iso");
     EXPECT_EQ(frmMain.txtISO.selectionStart, frmMain.txtISO.text.get().size());
