@@ -16,7 +16,8 @@ namespace tarnwell::native {
 bool prepareProcess(QProcess& process, const QString& commandLine);
 
 /// Sends the interrupt of Ctrl+C to a process that `prepareProcess` has set up and that runs.
-void interruptProcess(qint64 processId);
+/// False if the system refused.
+bool interruptProcess(qint64 processId);
 
 /// The path of the system's command interpreter.
 QString commandInterpreter();

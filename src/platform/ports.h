@@ -61,8 +61,8 @@ public:
     virtual qint64 write(const QByteArray& bytes) = 0;
     virtual qint64 processId() const = 0;
     /// Sends the interrupt that Ctrl+C at its console would send. Returns at once; the program may live on
-    /// for as long as it likes.
-    virtual void interrupt() = 0;
+    /// for as long as it likes. False if the interrupt could not be sent; it may be tried again.
+    virtual bool interrupt() = 0;
 };
 
 class ProcessLauncher {

@@ -5,6 +5,10 @@
 
 namespace tarnwell {
 
+qint32 MillisecondsSince(qint32 startTick, const Clock& clock) {
+    return static_cast<qint32>(static_cast<quint32>(clock.tickCount()) - static_cast<quint32>(startTick));
+}
+
 QString FormatElapsed(qint32 milliseconds, const Clock& clock) {
     if (milliseconds == clock.tickCount())
         return "00:00:00";

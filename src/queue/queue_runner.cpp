@@ -10,6 +10,8 @@
 #include "tool/stop_tool.h"
 #include "workflows/device_selection.h"
 
+#include <QScopeGuard>
+
 #include <limits>
 
 namespace tarnwell {
@@ -40,12 +42,13 @@ void QueueRunner::start() {
     if (!requireTool(shared_))
         return;
     guiSwitch_.EnableGUI(false);
-    openStatus();
-    resetResults();
-    shared_.blnJobStopped = false;
-    shared_.blnInstallRunning = false;
-    shared_.lQueueStartTick = shared_.ports.clock.tickCount();
     {
+        const auto usableAgain = qScopeGuard([this] { guiSwitch_.EnableGUI(true); });
+        openStatus();
+        resetResults();
+        shared_.blnJobStopped = false;
+        shared_.blnInstallRunning = false;
+        shared_.lQueueStartTick = shared_.ports.clock.tickCount();
         const ServerDuringWork server(statusServer_);
         runJobs();
     }
@@ -137,7 +140,6 @@ void QueueRunner::abortRest() {
 }
 
 void QueueRunner::finish() {
-    guiSwitch_.EnableGUI(true);
     TrayTip(shared_.ports.tray, shared_.title);
     CloseStatusWindowIfWanted(shared_);
     if (QueueTouchesDevice(shared_.frmMain))

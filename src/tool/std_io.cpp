@@ -28,10 +28,21 @@ QString cStdIO::ExecuteCommand(const QString& Command) {
         commandLine_ = Command;
     if (commandLine_.isEmpty())
         return fail(kCommandLineEmpty, "Command Line empty.");
+    try {
+        return run();
+    } catch (const std::exception&) {
+        // The program may still be at work; nobody reads it any more.
+        if (child_)
+            stopped_.push_back(std::move(child_));
+        ready_ = true;
+        throw;
+    }
+}
+
+QString cStdIO::run() {
     child_ = shared_.ports.launcher.start(commandLine_);
     if (!child_)
         return fail(kCreateProcessFailed, "CreateProcess failed.");
-
     output_.clear();
     decoder_ = QStringDecoder(QStringDecoder::System);
     readWhileRunning();
@@ -108,10 +119,8 @@ qint32 cStdIO::WriteData(const QString& strData) {
 }
 
 void cStdIO::interrupt() {
-    if (!child_ || interrupted_)
-        return;
-    interrupted_ = true;
-    child_->interrupt();
+    if (child_ && !interrupted_)
+        interrupted_ = child_->interrupt();
 }
 
 bool cStdIO::stoppedToolLives() {

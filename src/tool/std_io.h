@@ -44,7 +44,8 @@ public:
     qint32 WriteData(const QString& strData);
 
     /// Sends the running program its interrupt. The run ends at once; the program may live on for a while.
-    /// Does nothing when no program runs, or when it has been told already.
+    /// Does nothing when no program runs, or when it has been told already. If the system refuses to deliver
+    /// the interrupt, the run goes on, and the next call tries again.
     void interrupt();
     /// Whether a program that was sent its interrupt still lives.
     bool stoppedToolLives();
@@ -53,6 +54,7 @@ private:
     static constexpr int kPassMilliseconds = 30;
     static constexpr qsizetype kChunkBytes = 4096;
 
+    QString run();
     QString fail(int number, const QString& description);
     void readWhileRunning();
     void drain();

@@ -2,6 +2,7 @@
 
 #include "app/fault.h"
 #include "queue/elapsed.h"
+#include "tool/stop_tool.h"
 
 namespace tarnwell {
 
@@ -42,6 +43,8 @@ void ToolChannel::Tarn_Execute(const QString& strRawCommand) {
 }
 
 QString ToolChannel::run(const QString& command) {
+    // A tool that was told to stop may still be writing to the disk that this command is about.
+    WaitForStoppedTool(StdIO_, shared_.ports.pump);
     shared_.frmMain.txtCommand.text = command;
     shared_.frmMain.txtOutput.text = QString();
     QString output = StdIO_.ExecuteCommand(shared_.config.ToolPath() + ' ' + command);
@@ -75,11 +78,11 @@ void ToolChannel::showChunk(const QString& chunk) {
 
 void ToolChannel::refreshElapsedTimes() {
     const Clock& clock = shared_.ports.clock;
-    const qint32 now = clock.tickCount();
-    const QString current = FormatElapsed(now - shared_.lJobStartTick, clock);
+    const QString current = FormatElapsed(MillisecondsSince(shared_.lJobStartTick, clock), clock);
     shared_.frmStatus->lblCurrentElapsed.caption = current;
     shared_.frmStatus->lblOverallElapsed.caption =
-        shared_.blnInstallRunning ? current : FormatElapsed(now - shared_.lQueueStartTick, clock);
+        shared_.blnInstallRunning ? current
+                                  : FormatElapsed(MillisecondsSince(shared_.lQueueStartTick, clock), clock);
 }
 
 void ToolChannel::interpret(const QString& chunk) {

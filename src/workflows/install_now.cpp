@@ -8,6 +8,8 @@
 #include "workflows/free_space.h"
 #include "workflows/install_source.h"
 
+#include <QScopeGuard>
+
 namespace tarnwell {
 
 InstallNow::InstallNow(Shared& shared, ToolChannel& channel, cStdIO& StdIO, GuiSwitch& guiSwitch,
@@ -29,9 +31,16 @@ void InstallNow::install() {
     const Installation game = ReadInstallPage(shared_.frmMain);
     shared_.balloon("Installing " + game.name);
     guiSwitch_.EnableGUI(false);
-    openStatus(game.name);
-    shared_.frmMain.cmdMinimize.Click();
-    run(game);
+    {
+        const auto usableAgain = qScopeGuard([this] {
+            shared_.blnInstallRunning = false;
+            guiSwitch_.EnableGUI(true);
+        });
+        openStatus(game.name);
+        shared_.frmMain.cmdMinimize.Click();
+        run(game);
+        CloseStatusWindowIfWanted(shared_);
+    }
     finish(game);
 }
 
@@ -60,8 +69,6 @@ void InstallNow::run(const Installation& game) {
 }
 
 void InstallNow::finish(const Installation& game) {
-    CloseStatusWindowIfWanted(shared_);
-    guiSwitch_.EnableGUI(true);
     TrayTip(shared_.ports.tray, shared_.title);
     if (!shared_.blnJobStopped) {
         shared_.balloon("Installation of " + game.name + " complete!");

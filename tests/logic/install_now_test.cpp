@@ -283,11 +283,17 @@ TEST_F(InstallNow, ASecondCancelDoesNothingMore) {
 
 TEST_F(InstallNow, CancelAfterAHundredPercentDoesNotWaitButStillSkipsTheCompletionActions) {
     store("TurnOffPC", "1");
-    answerInstallWith({.output = {{"100%\r", 100}}, .endsAtMs = 100000000, .heedsInterrupt = false});
+    answerInstallWith({.output = {{"100%\r", 100}}, .endsAtMs = 60000, .heedsInterrupt = false});
     ports.pump.after(500, [&] { ui::click(frmStatus->cmdStop); });
+    bool finished = false;
+    ports.pump.after(1000, [&] { finished = frmMain.cmdExit.enabled && !frmStatus->shown(); });
+    const qint64 start = ports.clock.now;
     ui::click(frmMain.cmdInstall);
+    EXPECT_TRUE(finished);
     EXPECT_EQ(ports.power.shutDowns, 0);
     EXPECT_EQ(balloons().size(), 2);
+    EXPECT_EQ(commands().last(), "tarn_toc 192.168.0.10");
+    EXPECT_GE(ports.clock.now - start, 60000) << "no second tool beside the one that was told to stop";
 }
 
 TEST_F(InstallNow, CancelBeforeTheFirstOutputStartsTheToolAnewTwoSecondsLater) {
@@ -305,6 +311,16 @@ TEST_F(InstallNow, AFailedInstallEndsLikeASuccessfulOne) {
     EXPECT_EQ(balloons().last(), "Installation of RATCHET complete!");
     EXPECT_FALSE(program.shared().blnInstallRunning);
     EXPECT_EQ(commands().last(), "tarn_toc 192.168.0.10");
+}
+
+TEST_F(InstallNow, AnInstallThatBreaksOffLeavesTheWindowUsable) {
+    ports.launcher.script = [](const QString&) -> std::optional<ChildScript> {
+        throw std::runtime_error("out of memory");
+    };
+    ui::click(frmMain.cmdInstall);
+    EXPECT_TRUE(lastMessage().contains("out of memory"));
+    EXPECT_TRUE(frmMain.cmdInstall.enabled);
+    EXPECT_FALSE(program.shared().blnInstallRunning);
 }
 
 TEST_F(InstallNow, AToolThatSaysNothingIsToldAndTheWindowComesToItself) {

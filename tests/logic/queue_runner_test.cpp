@@ -471,6 +471,19 @@ TEST_F(QueueRunner, CancelDuringADeleteEndsTheQueueThere) {
     EXPECT_EQ(jobCommands(), QStringList("delete 192.168.0.10 A"));
 }
 
+TEST_F(QueueRunner, ACancelledDeleteThatTakesItsTimeIsOverBeforeTheListIsRead) {
+    addJob("delete 192.168.0.10 A", "Delete", kConsole, "");
+    answerWith("delete", {.output = {}, .endsAtMs = kForEver, .farewellTakesMs = 7000});
+    cancelAfter(500);
+    runQueue();
+    EXPECT_EQ(results(), QStringList(kAborted));
+    const auto& children = ports.launcher.children;
+    const auto& deletion = *std::ranges::find_if(
+        children, [](const auto& child) { return child->commandLine.contains("delete"); });
+    EXPECT_FALSE(deletion->runningAt(children.back()->startedAt));
+    EXPECT_TRUE(commands().last().startsWith("tarn_toc"));
+}
+
 TEST_F(QueueRunner, CancelInThePauseAfterADeleteCountsForThatDelete) {
     addJob("delete 192.168.0.10 A", "Delete", kConsole, "");
     addJob("delete 192.168.0.10 B", "Delete", kConsole, "");

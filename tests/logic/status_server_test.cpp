@@ -158,6 +158,7 @@ TEST_F(StatusServer, IsStoppedIfTheRunItselfBreaksOff) {
     EXPECT_EQ(ports.dialogs.messages.size(), 1);
     EXPECT_TRUE(stopped());
     EXPECT_TRUE(captionIsTitle());
+    EXPECT_TRUE(frmMain.cmdStart.enabled);
 }
 
 TEST_F(StatusServer, IsStoppedWhenTheProgramEndsDuringWork) {

@@ -170,6 +170,29 @@ TEST_F(StdIOTest, ASecondInterruptDoesNothing) {
     EXPECT_EQ(ports.launcher.children[0]->interrupts, 1);
 }
 
+TEST_F(StdIOTest, AnInterruptThatCannotBeDeliveredLeavesTheRunAndMayBeTriedAgain) {
+    program({.endsAtMs = 2000, .hearsInterrupt = false});
+    ports.pump.after(100, [&] { ShowStopPrompt(StdIO); });
+    ports.pump.after(500, [&] {
+        ports.launcher.children[0]->script.hearsInterrupt = true;
+        ShowStopPrompt(StdIO);
+    });
+    const qint64 start = ports.clock.now;
+    StdIO.ExecuteCommand("tool");
+    EXPECT_GE(ports.clock.now - start, 500);
+    EXPECT_LT(ports.clock.now - start, 600);
+    EXPECT_EQ(ports.launcher.children[0]->interrupts, 2);
+}
+
+TEST_F(StdIOTest, ARunThatBreaksOffFreesTheChannelAndLeavesTheProgramAtWork) {
+    program({.output = {{"text", 100}}, .endsAtMs = 2000});
+    StdIO.GotData = [](const QString&) { throw std::runtime_error("out of memory"); };
+    EXPECT_THROW(StdIO.ExecuteCommand("tool"), std::runtime_error);
+    EXPECT_TRUE(StdIO.Ready());
+    EXPECT_EQ(ports.launcher.children[0]->interrupts, 0);
+    EXPECT_TRUE(StdIO.stoppedToolLives()) << "no other is started beside it";
+}
+
 TEST_F(StdIOTest, AnInterruptWithNothingRunningDoesNothing) {
     ShowStopPrompt(StdIO);
     EXPECT_FALSE(StdIO.stoppedToolLives());

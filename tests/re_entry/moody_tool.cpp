@@ -9,11 +9,6 @@ const QByteArray kDisksAndDrives = "\thdd1:  114473MB, formatted Playstation 2 H
                                    "\thdd3:  38146MB, unknown format\r\n"
                                    "\tcd0:  4482 MB\r\n\tcd1:  no disc\r\n"
                                    "via SPTI:\r\n\tD: disc 4482 MB\r\n\tE: no disc: none\r\n";
-const QByteArray kGames = "type   size flags          dma startup      name\r\n"
-                          "DVD  4193280KB                SLUS_200.71 @@@Ratchet\r\n"
-                          "CD    716800KB +1             SLES_500.03 @@@Tekken Tag\r\n"
-                          "total 114473MB, used 26712MB, available 87761MB\r\n";
-const QByteArray kDisc = "DVD 4193280KB \"RATCHET\" \"SLUS_200.71\"\r\n";
 
 const char* const kOddWords[] = {
     "inject: not enough free space.\r\n",
@@ -30,7 +25,26 @@ const char* const kOddWords[] = {
     "\thdd\r\n\tcd MB\r\n",
 };
 
+QByteArray gamesOf(const QString& device) {
+    const QByteArray startup = MoodyTool::startupOn(device).toLatin1();
+    return "type   size flags          dma startup      name\r\n"
+           "DVD 4193280KB                " +
+           startup + "   Ratchet\r\nCD   716800KB +1             " + startup +
+           "   Tekken Tag\r\ntotal 114473MB, used 26712MB, available 87761MB\r\n";
+}
+
+QByteArray disc(const QString& source) {
+    const char* const startup =
+        source.endsWith(".iso\"") ? MoodyTool::kStartupInImage : MoodyTool::kStartupOnDisc;
+    return QByteArray("DVD 4193280KB \"RATCHET\" \"") + startup + "\"\r\n";
+}
+
 } // namespace
+
+QString MoodyTool::startupOn(const QString& device) {
+    const size_t number = qHash(device) % 1'000'000;
+    return QString("%1_%2").arg(device.endsWith(':') ? "HDD" : "NET").arg(number, 7, 10, QChar('0'));
+}
 
 std::optional<ChildScript> MoodyTool::answerTo(const QString& command) {
     constexpr int kMoods = 3;
@@ -47,10 +61,12 @@ ChildScript MoodyTool::wellBehaved(const QString& command) {
     const auto begins = [&](const char* word) { return command.startsWith(QLatin1String(word)); };
     if (begins("query"))
         return {.output = {{kDisksAndDrives}}, .endsAtMs = 40};
-    if (begins("tarn_toc"))
-        return {.output = {{kGames.left(100)}, {kGames.mid(100), 35}}, .endsAtMs = 70};
+    if (begins("tarn_toc ")) {
+        const QByteArray games = gamesOf(command.mid(command.indexOf(' ') + 1));
+        return {.output = {{games.left(100)}, {games.mid(100), 35}}, .endsAtMs = 70};
+    }
     if (begins("cdvd_info2"))
-        return {.output = {{kDisc}}, .endsAtMs = 40};
+        return {.output = {{disc(command), 30}}, .endsAtMs = 40};
     if (begins("inject") || begins("extract") || begins("dump"))
         return {.output = {{"1%, 12 min remaining, 3.50 MB/sec\r", 10},
                            {"50%, 6 min remaining, 4.00 MB/sec\r", 50},

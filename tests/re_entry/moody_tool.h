@@ -14,6 +14,11 @@ public:
     bool moody = false;
     std::optional<ChildScript> answerTo(const QString& command);
 
+    /// The startup file of every game on a device, which tells where the game was read.
+    static QString startupOn(const QString& device);
+    /// The same of the game in an image, and of that on a disc.
+    static constexpr const char *kStartupInImage = "IMG_200.71", *kStartupOnDisc = "DSC_200.71";
+
 private:
     static ChildScript wellBehaved(const QString& command);
     void spoil(ChildScript& script);

@@ -63,7 +63,7 @@ std::string Scene::story() const {
 std::optional<ChildScript> Scene::startTool(const QString& commandLine) {
     const QString command = commandLine.mid(path("tarnwell.exe ").size());
     for (const auto& child : ports.launcher.children)
-        demand(child->interrupts > 0 || !child->runningAt(ports.clock.now),
+        demand(command.startsWith("poweroff") || !child->runningAt(ports.clock.now),
                "two tools at once: " + child->commandLine.toStdString() + " and " +
                    commandLine.toStdString());
     if (loose_)
@@ -128,6 +128,25 @@ void Scene::lookAtRest() {
     demand(frmMain.cmbOptical.enabled == frmMain.optOptical.value, "cmbOptical does not follow the source");
     demand(frmMain.txtIP.visible == frmMain.optLAN.value, "txtIP does not follow the device");
     demand(frmMain.cmbHD.visible == frmMain.optLocal.value, "cmbHD does not follow the device");
+    lookAtOrigins();
+    demand(!ports.wakeLock.held, "the machine may never sleep again");
+}
+
+/// What the window shows was told by the source beside which it stands.
+void Scene::lookAtOrigins() {
+    constexpr int kStartupColumn = 0; // of those behind the title
+    const QString startup = frmMain.txtGameStartup.text;
+    demand(startup != MoodyTool::kStartupInImage || frmMain.optISO.value, "an image beside a drive");
+    demand(startup != MoodyTool::kStartupOnDisc || frmMain.optOptical.value, "a disc beside an image");
+    for (int i = 0; i < frmMain.lstHD.count(); ++i) {
+        const QString origin = frmMain.lstHD.row(i).subItems[kStartupColumn];
+        // The games of a local disk stay when another is chosen.
+        const bool local = origin.startsWith("HDD"), remote = origin.startsWith("NET");
+        demand(frmMain.optLocal.value
+                   ? !remote
+                   : !local && (!remote || origin == MoodyTool::startupOn(frmMain.txtIP.text)),
+               "a game of another device: " + origin.toStdString());
+    }
 }
 
 /// What is usable from the start is usable again, but for the controls of the source of an install.

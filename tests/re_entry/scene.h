@@ -51,6 +51,7 @@ private:
     void act(bool boxIsOpen);
     void answerBox();
     void lookAtRest();
+    void lookAtOrigins();
     void tryOut();
     Effects effects() const;
     void demand(bool holds, const std::string& what);

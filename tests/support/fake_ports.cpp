@@ -45,16 +45,19 @@ public:
 
     qint64 processId() const override { return child_->processId; }
 
-    void interrupt() override {
+    bool interrupt() override {
         ++child_->interrupts;
         ChildScript& script = child_->script;
+        if (!script.hearsInterrupt)
+            return false;
         if (!running() || !script.heedsInterrupt)
-            return;
+            return true;
         collect();
         script.output = {{script.farewell, elapsed()}};
         collected_ = 0;
         // Even without a delay it lives through this moment, so that it is seen to be ending.
         script.endsAtMs = elapsed() + qMax(1, script.farewellTakesMs);
+        return true;
     }
 
 private:

@@ -60,6 +60,7 @@ struct ChildScript {
     };
     std::vector<Output> output{};
     int endsAtMs = 30;
+    bool hearsInterrupt = true; ///< false: it cannot be delivered
     bool heedsInterrupt = true;
     QByteArray farewell{"Interrupted.\r\n"}; ///< printed on an interrupt that it heeds
     int farewellTakesMs = 0;

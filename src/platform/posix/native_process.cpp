@@ -25,9 +25,9 @@ bool prepareProcess(QProcess& process, const QString& commandLine) {
     return true;
 }
 
-void interruptProcess(qint64 processId) {
+bool interruptProcess(qint64 processId) {
     // The whole session, as a terminal does: the program may have been started through a script.
-    ::kill(-static_cast<pid_t>(processId), SIGINT);
+    return ::kill(-static_cast<pid_t>(processId), SIGINT) == 0;
 }
 
 } // namespace tarnwell::native

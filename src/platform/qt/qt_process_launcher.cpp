@@ -40,11 +40,7 @@ public:
 
     qint64 processId() const override { return processId_; }
 
-    void interrupt() override {
-        if (running()) {
-            native::interruptProcess(processId_);
-        }
-    }
+    bool interrupt() override { return !running() || native::interruptProcess(processId_); }
 
 private:
     std::unique_ptr<QProcess> process_;

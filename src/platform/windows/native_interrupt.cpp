@@ -51,19 +51,20 @@ bool attachToConsoleOf(DWORD processId) {
 
 } // namespace
 
-void native::interruptProcess(qint64 processId) {
+bool native::interruptProcess(qint64 processId) {
     const StandardHandles ours;
     FreeConsole(); // if any: a program of windows has none
     if (!attachToConsoleOf(static_cast<DWORD>(processId)))
-        return;
+        return false;
     // The interrupt goes to all processes of a console, to us, too. Ours has to be swallowed before the
     // console is left, because leaving it takes the handler away, and what comes later would end us.
     SetConsoleCtrlHandler(swallowInterrupt, TRUE);
     ResetEvent(arrived());
-    if (GenerateConsoleCtrlEvent(CTRL_C_EVENT, 0) &&
-        WaitForSingleObject(arrived(), kArrivalLimitMs) != WAIT_OBJECT_0)
+    const bool sent = GenerateConsoleCtrlEvent(CTRL_C_EVENT, 0);
+    if (sent && WaitForSingleObject(arrived(), kArrivalLimitMs) != WAIT_OBJECT_0)
         SetConsoleCtrlHandler(nullptr, TRUE); // the next start of a process undoes it, see prepareProcess
     FreeConsole();
+    return sent;
 }
 
 } // namespace tarnwell
