@@ -10,10 +10,22 @@ class QProcess;
 /// this file that defines all of them; the build takes one of the folders.
 namespace tarnwell::native {
 
+/// Our end of the pipe into which a process prints. A pipe takes in a few thousand bytes; a program that
+/// prints faster than it is read has to wait, so that what is read is never old and no flood fills the
+/// memory.
+class OutputPipe {
+public:
+    virtual ~OutputPipe() = default;
+    /// Takes what waits, at most `maximum` bytes. Never blocks.
+    virtual QByteArray read(qsizetype maximum) = 0;
+    /// Lets go of the other end, which from now on is the process's alone.
+    virtual void processHasStarted() = 0;
+};
+
 /// Sets up a process that has not been started: its program and arguments out of a command line (see
-/// ProcessLauncher::start), a life of its own that outlasts this program, no window. False if the command
-/// line names no program.
-bool prepareProcess(QProcess& process, const QString& commandLine);
+/// ProcessLauncher::start), a pipe for what it prints, a life of its own that outlasts this program, no
+/// window. Null if the command line names no program, or if the system has no more pipes.
+std::unique_ptr<OutputPipe> prepareProcess(QProcess& process, const QString& commandLine);
 
 /// Sends the interrupt of Ctrl+C to a process that `prepareProcess` has set up and that runs.
 /// False if the system refused.

@@ -23,7 +23,7 @@ protected:
 TEST_F(LivelyWindows, WhileTheToolPrintsAsFastAsItCan) {
     Ticker ticker;
     play([&](User& user) {
-        install(user, "flood_lines = 100000\n");
+        install(user, "flood_lines = 10000\n");
         user.look([&] { ticker.start(); });
         user.waitFor("the end", [&] { return user.messageUp() || !user.windowUp("frmStatus"); });
         user.look([&] {

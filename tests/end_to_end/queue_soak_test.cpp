@@ -40,8 +40,11 @@ protected:
         const QByteArray label = "VmRSS:";
         return status.mid(status.indexOf(label) + label.size()).trimmed().split(' ').first().toLongLong();
     }
-    static qsizetype openFiles() {
-        return QDir("/proc/self/fd").entryList(QDir::Files | QDir::System).size();
+    static QStringList openFiles() {
+        QStringList files;
+        for (const QFileInfo& file : QDir("/proc/self/fd").entryInfoList(QDir::Files | QDir::System))
+            files += file.fileName() + " is " + file.symLinkTarget();
+        return files;
     }
 };
 
@@ -51,7 +54,7 @@ TEST_F(QueueSoak, ManyJobsCostNeitherMemoryNorFiles) {
     bench.run({"inject_cd", "hdd1:", "TINY", bench.path("tiny.bin"), "SLUS_999.98"});
     play([&](User& user) {
         queueJobs(user);
-        const qsizetype filesBefore = user.look(&openFiles);
+        const QStringList filesBefore = user.look(&openFiles);
         user.click("optJobQueue");
         user.click("cmdStart");
         user.waitFor("the status window", [&] { return user.windowUp("frmStatus"); });

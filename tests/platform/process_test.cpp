@@ -121,6 +121,15 @@ TEST(ProcessLauncher, StartingServesNoEvents) {
     QtEventPump().pump();
 }
 
+TEST(ProcessLauncher, AProgramThatPrintsFasterThanItIsReadWaits) {
+    const auto child = startChild("bytes 1000000");
+    ASSERT_TRUE(child);
+    const Ending ending(*child);
+    QtEventPump().pumpFor(300);
+    EXPECT_TRUE(child->running()) << "all that it prints lies in our memory";
+    EXPECT_EQ(readAll(*child).size(), 1'000'000);
+}
+
 TEST(ProcessLauncher, ArgumentsArriveAsTheyWereGrouped) {
     const auto child = startChild("arguments inject \"My Game\" \"\" a\"b c\"d  last ");
     ASSERT_TRUE(child);

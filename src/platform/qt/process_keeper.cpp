@@ -17,12 +17,10 @@ void keepUntilFinished(std::unique_ptr<QProcess> process) {
     QProcess* const child = process.release();
     kept.insert(child);
     child->closeWriteChannel();
-    QObject::connect(child, &QProcess::readyRead, child, [child] { child->readAll(); });
     QObject::connect(child, &QProcess::finished, child, [child] {
         kept.erase(child);
         child->deleteLater();
     });
-    child->readAll();
 }
 
 } // namespace tarnwell

@@ -14,20 +14,16 @@ constexpr int kStartLimitMs = 10'000;
 
 class QtChildProcess : public ChildProcess {
 public:
-    explicit QtChildProcess(std::unique_ptr<QProcess> process) : process_(std::move(process)) {}
+    QtChildProcess(std::unique_ptr<QProcess> process, std::unique_ptr<native::OutputPipe> output)
+        : process_(std::move(process)), output_(std::move(output)) {}
     ~QtChildProcess() override { keepUntilFinished(std::move(process_)); }
 
     bool running() override {
-        // The state alone is as old as the last pump; a wait of no time looks at the process and its pipes.
+        // The state alone is as old as the last pump; a wait of no time looks at the process.
         return process_->state() != QProcess::NotRunning && !process_->waitForFinished(0);
     }
 
-    QByteArray read(qsizetype maximum) override {
-        if (process_->bytesAvailable() == 0) {
-            process_->waitForReadyRead(0);
-        }
-        return process_->read(maximum);
-    }
+    QByteArray read(qsizetype maximum) override { return output_->read(maximum); }
 
     qint64 write(const QByteArray& bytes) override {
         if (!running()) {
@@ -44,6 +40,7 @@ public:
 
 private:
     std::unique_ptr<QProcess> process_;
+    const std::unique_ptr<native::OutputPipe> output_;
     const qint64 processId_ = process_->processId(); // QProcess forgets it when the process has gone
 };
 
@@ -51,15 +48,16 @@ private:
 
 std::unique_ptr<ChildProcess> QtProcessLauncher::start(const QString& commandLine) {
     auto process = std::make_unique<QProcess>();
-    process->setProcessChannelMode(QProcess::MergedChannels);
-    if (!native::prepareProcess(*process, commandLine)) {
+    auto output = native::prepareProcess(*process, commandLine);
+    if (!output) {
         return nullptr;
     }
     process->start();
     if (!process->waitForStarted(kStartLimitMs)) {
         return nullptr;
     }
-    return std::make_unique<QtChildProcess>(std::move(process));
+    output->processHasStarted();
+    return std::make_unique<QtChildProcess>(std::move(process), std::move(output));
 }
 
 } // namespace tarnwell

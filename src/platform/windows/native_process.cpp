@@ -3,6 +3,7 @@
 
 #include <QProcess>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -10,10 +11,50 @@ namespace tarnwell {
 
 namespace {
 
+class WindowsOutputPipe : public native::OutputPipe {
+public:
+    WindowsOutputPipe() {
+        constexpr DWORD kRoomBytes = 65'536;
+        SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
+        if (CreatePipe(&ours_, &theirs_, &inherited, kRoomBytes))
+            SetHandleInformation(ours_, HANDLE_FLAG_INHERIT, 0);
+    }
+    ~WindowsOutputPipe() override {
+        closeEnd(ours_);
+        closeEnd(theirs_);
+    }
+    Q_DISABLE_COPY_MOVE(WindowsOutputPipe)
+
+    bool isOpen() const { return ours_; }
+    HANDLE endOfProcess() const { return theirs_; }
+
+    QByteArray read(qsizetype maximum) override {
+        DWORD waiting = 0;
+        if (!PeekNamedPipe(ours_, nullptr, 0, nullptr, &waiting, nullptr) || waiting == 0)
+            return {};
+        QByteArray bytes(std::min<qsizetype>(waiting, maximum), Qt::Uninitialized);
+        DWORD taken = 0;
+        ReadFile(ours_, bytes.data(), static_cast<DWORD>(bytes.size()), &taken, nullptr);
+        bytes.truncate(taken);
+        return bytes;
+    }
+    void processHasStarted() override { closeEnd(theirs_); }
+
+private:
+    static void closeEnd(HANDLE& end) {
+        if (end)
+            CloseHandle(end);
+        end = nullptr;
+    }
+
+    HANDLE ours_ = nullptr, theirs_ = nullptr;
+};
+
 /// Turns the call that QProcess is about to make into the one that is wanted, and keeps what it points to.
 class Start {
 public:
-    explicit Start(const QString& commandLine) : commandLine_(commandLine.toStdWString()) {}
+    Start(const QString& commandLine, HANDLE output)
+        : commandLine_(commandLine.toStdWString()), output_(output) {}
     ~Start() {
         if (!attributes_.empty())
             DeleteProcThreadAttributeList(attributes());
@@ -28,6 +69,7 @@ public:
         startup_.StartupInfo = *call.startupInfo;
         startup_.StartupInfo.dwFlags |= STARTF_USESHOWWINDOW;
         startup_.StartupInfo.wShowWindow = SW_HIDE;
+        startup_.StartupInfo.hStdOutput = startup_.StartupInfo.hStdError = output_;
         call.startupInfo = &startup_.StartupInfo;
         if (handDownOnlyStreams()) {
             startup_.StartupInfo.cb = sizeof startup_;
@@ -40,10 +82,7 @@ public:
 private:
     /// A program that outlives this one must not keep our sockets and files open.
     bool handDownOnlyStreams() {
-        const STARTUPINFOW& streams = startup_.StartupInfo;
-        streams_ = {streams.hStdInput, streams.hStdOutput};
-        if (streams.hStdError != streams.hStdOutput) // the system takes none twice
-            streams_.push_back(streams.hStdError);
+        streams_ = {startup_.StartupInfo.hStdInput, output_}; // the system takes none twice
         SIZE_T size = 0;
         InitializeProcThreadAttributeList(nullptr, 1, 0, &size);
         attributes_.resize(size);
@@ -61,6 +100,7 @@ private:
     }
 
     std::wstring commandLine_;
+    const HANDLE output_;
     STARTUPINFOEXW startup_{};
     std::vector<HANDLE> streams_;
     std::vector<std::byte> attributes_;
@@ -68,13 +108,17 @@ private:
 
 } // namespace
 
-bool native::prepareProcess(QProcess& process, const QString& commandLine) {
-    if (commandLine.trimmed().isEmpty())
-        return false;
-    process.setProgram(commandLine); // QProcess starts nothing that has no name
+std::unique_ptr<native::OutputPipe> native::prepareProcess(QProcess& process, const QString& commandLine) {
+    auto output = std::make_unique<WindowsOutputPipe>();
+    if (commandLine.trimmed().isEmpty() || !output->isOpen())
+        return nullptr;
+    process.setProgram(commandLine);                            // QProcess starts nothing that has no name
+    process.setProcessChannelMode(QProcess::ForwardedChannels); // QProcess makes no pipes of its own
     process.setCreateProcessArgumentsModifier(
-        [start = std::make_shared<Start>(commandLine)](auto* call) { start->change(*call); });
-    return true;
+        [start = std::make_shared<Start>(commandLine, output->endOfProcess())](auto* call) {
+            start->change(*call);
+        });
+    return output;
 }
 
 } // namespace tarnwell
