@@ -21,9 +21,6 @@ public:
     Program& program() { return program_; }
     DesktopPorts& ports() { return ports_; }
     view::MainWindowView& mainWindow() { return mainWindow_; }
-    view::SettingsWindowView& settingsWindow() { return settingsWindow_; }
-    view::StatusWindowView& statusWindow() { return statusWindow_; }
-    view::AboutWindowView& aboutWindow() { return aboutWindow_; }
 
 private:
     void giveIconOnceShown();

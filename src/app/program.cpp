@@ -7,8 +7,6 @@ namespace tarnwell {
 
 namespace {
 
-const QString kFirstAddress = QStringLiteral("192.168.0.10");
-
 std::vector<ui::Column> withWidths(std::vector<ui::Column> columns, std::initializer_list<int> twips) {
     auto column = columns.begin();
     for (const int width : twips)
@@ -71,7 +69,7 @@ void Program::layOutMain() {
     frmMain.chkOutput.value = shared_.config.number("ViewOutput") == 1 ? 1 : 0;
     frmMain.cmbType.listIndex = 1;
     const QString address = shared_.config.text("IP");
-    frmMain.txtIP.text = address.isEmpty() ? kFirstAddress : address;
+    frmMain.txtIP.text = address.isEmpty() ? ConfigStore::defaultText("IP") : address;
     PercentBar(frmMain.picDiskSpace, 100, 0, shared_.ports.pump);
     frmMain.lstHD.columns = withWidths(frmMain.lstHD.columns, {1400, 1070, 720, 540, 560});
     frmMain.lstJob.columns =

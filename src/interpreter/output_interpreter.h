@@ -7,7 +7,8 @@ namespace tarnwell {
 struct Shared;
 
 /// Understands what the tool prints. The shared flags say what a text can be about: a query, a disc, a game
-/// list, a running job. Without a flag a text changes nothing.
+/// list, a running job. Without a flag a text changes nothing, unless it tells that the console
+/// closed or refused a connection: that goes into the row of the latest job.
 class OutputInterpreter {
 public:
     explicit OutputInterpreter(Shared& shared) : shared_(shared) {}

@@ -91,7 +91,8 @@ enum class MessageIcon { Exclamation, Question, Stop };
 struct OpenFileRequest {
     QString title{}; ///< empty: the platform's own
     QString filter{};
-    QString folder{}; ///< empty: the dialog's own start folder
+    QString folder{};    ///< empty: the dialog's own start folder
+    QString extension{}; ///< goes behind a name that is typed without one and names no file as it is
     bool mustExist = false;
 };
 

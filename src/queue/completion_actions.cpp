@@ -28,10 +28,10 @@ void CompletionActions::afterInstall() {
         shared_.frmMain.txtCommand.text = powerOff();
         shared_.frmMain.txtOutput.text = QString();
     }
-    afterQueue();
+    turnOffWhatIsTicked();
 }
 
-void CompletionActions::afterQueue() {
+void CompletionActions::turnOffWhatIsTicked() {
     if (consoleGoesOff())
         channel_.Tarn_Execute(powerOff());
     turnPcOff();

@@ -16,9 +16,10 @@ public:
 
     /// After an install or a queue that was not cancelled; whether it worked is not asked.
     void afterInstall();
-    void afterQueue();
+    void afterQueue() { turnOffWhatIsTicked(); }
 
 private:
+    void turnOffWhatIsTicked();
     bool consoleGoesOff();
     QString powerOff() const;
     void turnPcOff();

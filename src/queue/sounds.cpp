@@ -34,8 +34,10 @@ void Sounds::load() {
 }
 
 void Sounds::choose(ui::MenuEntry& entry, const QString& words, const QString& key) {
-    const auto path = shared_.ports.dialogs.openFile(
-        {.title = "Select Sound File", .filter = "Wave files (*.wav)|*.wav|All Files (*.*)|*.*|"});
+    const auto path =
+        shared_.ports.dialogs.openFile({.title = "Select Sound File",
+                                        .filter = "Wave files (*.wav)|*.wav|All Files (*.*)|*.*|",
+                                        .extension = "*.wav"});
     // Cancelling is how a sound is taken off.
     const QString value = orNone(path.value_or(QString()));
     entry.caption = words + value;

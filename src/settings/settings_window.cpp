@@ -4,6 +4,12 @@
 
 namespace tarnwell {
 
+namespace {
+
+const QString kDatabaseFile = QStringLiteral("tarnwell.list");
+
+} // namespace
+
 SettingsWindow::SettingsWindow(Shared& shared, GuiSettings& guiSettings, DataFolder& dataFolder,
                                ToolConfig& toolConfig)
     : shared_(shared), guiSettings_(guiSettings), dataFolder_(dataFolder), toolConfig_(toolConfig) {
@@ -88,7 +94,7 @@ void SettingsWindow::useDefaults() {
     frmSettings->chkLimit28bit.value = 1;
     frmSettings->chkUseCompression.value = 0;
     frmSettings->txtTargetkbps.text = QString("2300");
-    shared_.frmMain.txtIP.text = QString("192.168.0.10");
+    shared_.frmMain.txtIP.text = ConfigStore::defaultText("IP");
     shared_.config.WriteDefaultConfig();
     guiSettings_.LoadGUISettings();
     // The tool's file still stands: only the keys that it lacks keep the values from above.
@@ -96,10 +102,10 @@ void SettingsWindow::useDefaults() {
 }
 
 void SettingsWindow::chooseDiscDatabase() {
-    const auto file = shared_.ports.dialogs.openFile({.filter = "Tarnwell Disk Database|tarnwell.list",
+    const auto file = shared_.ports.dialogs.openFile({.filter = "Tarnwell Disk Database|" + kDatabaseFile,
                                                       .folder = shared_.config.text("ApplicationData"),
                                                       .mustExist = true});
-    if (file && file->toLower().endsWith(QLatin1String("tarnwell.list")))
+    if (file && file->toLower().endsWith(kDatabaseFile))
         shared_.frmSettings->txtDiscDatabase.text = *file;
 }
 

@@ -2,7 +2,7 @@
 
 #include "interpreter/tool_commands.h"
 #include "queue/wait_seconds.h"
-#include "workflows/query.h"
+#include "workflows/hourglass.h"
 
 namespace tarnwell {
 

@@ -3,6 +3,8 @@
 #include "app/fault.h"
 #include "interpreter/text_primitives.h"
 
+#include <limits>
+
 namespace tarnwell {
 
 namespace {
@@ -21,8 +23,13 @@ qint32 sizeOfSource(const QString& tag) {
 } // namespace
 
 qint32 RoundUp128(qint32 size) {
+    constexpr qint32 most = std::numeric_limits<qint32>::max() / kUnitMegabytes * kUnitMegabytes;
+    if (size > most)
+        throw Fault("The size of the game, " + QString::number(size) +
+                    " MB, is more than any disk can hold. Choose the image file or the drive again.");
+    // Below 0 the rest is so too, and without it the size is the next greater multiple already.
     const qint32 rest = size % kUnitMegabytes;
-    return rest == 0 ? size : size - rest + kUnitMegabytes;
+    return rest > 0 ? size - rest + kUnitMegabytes : size - rest;
 }
 
 bool EnoughFreeSpace(Shared& shared) {

@@ -87,8 +87,10 @@ void InstallSource::readDisc() {
 void InstallSource::browse() {
     if (!requireTool(shared_))
         return;
-    const auto path = shared_.ports.dialogs.openFile(
-        {.filter = kInstallableImages, .folder = shared_.config.text("DefaultISO"), .mustExist = true});
+    const auto path = shared_.ports.dialogs.openFile({.filter = kInstallableImages,
+                                                      .folder = shared_.config.text("DefaultISO"),
+                                                      .extension = "*.iso",
+                                                      .mustExist = true});
     if (path && !path->isEmpty())
         readImage(*path);
     else

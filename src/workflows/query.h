@@ -2,6 +2,7 @@
 
 #include "interpreter/output_interpreter.h"
 #include "tool/tool_channel.h"
+#include "workflows/hourglass.h"
 
 namespace tarnwell {
 
@@ -22,18 +23,6 @@ public:
 private:
     bool& flag_;
     int exceptions_;
-};
-
-/// The pointer of a window is the hourglass for as long as this lives: the only sign of a short run.
-class Hourglass {
-public:
-    explicit Hourglass(ui::Form& form) : form_(form) { form_.mousePointer = ui::MousePointer::Hourglass; }
-    ~Hourglass() { form_.mousePointer = ui::MousePointer::Default; }
-    Hourglass(const Hourglass&) = delete;
-    Hourglass& operator=(const Hourglass&) = delete;
-
-private:
-    ui::Form& form_;
 };
 
 /// Asks the tool for the PC's disks and drives and returns when the answer has been read. `flag` says which

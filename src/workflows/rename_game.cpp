@@ -2,7 +2,7 @@
 
 #include "interpreter/text_primitives.h"
 #include "interpreter/tool_commands.h"
-#include "workflows/query.h"
+#include "workflows/hourglass.h"
 
 namespace tarnwell {
 

@@ -98,8 +98,8 @@ TEST_F(CancelledInstall, OnceMoreAfterTheFirst) {
 
 TEST_F(CancelledInstall, TheProgramWaitsForAToolThatTakesItsTime) {
     play([&](User& user) {
-        prepare(user, "delay_ms_per_step = 10\nignore_interrupt = yes\n");
-        waitForPercent(user, 30);
+        prepare(user, "delay_ms_per_step = 30\nignore_interrupt = yes\n");
+        waitForPercent(user, 10);
         cancel(user);
         EXPECT_TRUE(bench.log().contains("< done")) << "the tool had not ended";
         EXPECT_EQ(user.rows("lstHD").size(), 4) << "this tool has finished the game all the same";

@@ -110,7 +110,6 @@ TEST_F(OddTool, OutputInAwkwardPiecesIsReadAllTheSame) {
     });
 }
 
-/// A line that is torn where a read ends may be misread; that is told when the run has ended.
 TEST_F(OddTool, OneThatHangsInAQueryKeepsNobodyFromLeaving) {
     play([&](User& user) {
         openDisk(user);

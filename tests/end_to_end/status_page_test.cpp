@@ -91,9 +91,9 @@ protected:
 TEST_F(StatusPage, ABrowserFollowsAQueueFromReloadToReload) {
     ASSERT_FALSE(QStandardPaths::findExecutable("chromium").isEmpty()) << "./dev setup installs it";
     play([&](User& user) {
-        startSlowQueue(user);
+        startSlowQueue(user, 1000); // far from its end however long the browser takes to start
         const QString first = browse();
-        user.waitFor("more work done", [&] { return user.percent("picCurrent") >= percent(first) + 5; });
+        user.waitFor("more work done", [&] { return user.percent("picCurrent") >= percent(first) + 2; });
         const QString second = browse();
         cancel(user);
 
@@ -102,14 +102,14 @@ TEST_F(StatusPage, ABrowserFollowsAQueueFromReloadToReload) {
         EXPECT_FALSE(first.contains("<script"));
         for (const QString& document : {first, second}) {
             EXPECT_EQ(document.count("<tr>"), 10);
-            EXPECT_TRUE(row(document, "Elapsed Time").startsWith("00:00:"));
+            EXPECT_TRUE(row(document, "Elapsed Time").startsWith("00:0"));
             EXPECT_TRUE(row(document, "Time Remaining").contains("remaining"));
             EXPECT_TRUE(row(document, "Transfer Speed").endsWith("MB/sec"));
             EXPECT_EQ(row(document, "Job Status"), "Job 1 of 2");
             EXPECT_NEAR(percent(document, 1), percent(document) / 2.0, 1);
-            EXPECT_TRUE(row(document, "Elapsed Time", 1).startsWith("00:00:"));
+            EXPECT_TRUE(row(document, "Elapsed Time", 1).startsWith("00:0"));
         }
-        EXPECT_GE(percent(second), percent(first) + 5);
+        EXPECT_GE(percent(second), percent(first) + 2);
         EXPECT_GT(row(second, "Elapsed Time"), row(first, "Elapsed Time"));
     });
 }

@@ -45,6 +45,8 @@ TEST_F(CompletionActions, AChosenSoundIsShownAndStored) {
     const OpenFileRequest& request = ports.dialogs.openFileRequests.back();
     EXPECT_EQ(request.title, "Select Sound File");
     EXPECT_EQ(request.filter, "Wave files (*.wav)|*.wav|All Files (*.*)|*.*|");
+    EXPECT_EQ(request.extension, "*.wav");
+    EXPECT_FALSE(request.mustExist);
 }
 
 TEST_F(CompletionActions, CancellingTheDialogTakesTheSoundOff) {

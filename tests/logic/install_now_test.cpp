@@ -1,5 +1,8 @@
+#include "app/fault.h"
 #include "support/program_test.h"
 #include "workflows/free_space.h"
+
+#include <limits>
 
 namespace tarnwell::test {
 
@@ -42,6 +45,18 @@ TEST(RoundUp128, TakesWholeUnits) {
     EXPECT_EQ(RoundUp128(1), 128);
     EXPECT_EQ(RoundUp128(128), 128);
     EXPECT_EQ(RoundUp128(4097), 4224);
+    EXPECT_EQ(RoundUp128(-100), 0);
+    EXPECT_EQ(RoundUp128(-128), -128);
+    EXPECT_EQ(RoundUp128(-129), -128);
+    EXPECT_EQ(RoundUp128(std::numeric_limits<qint32>::min()), std::numeric_limits<qint32>::min());
+}
+
+TEST(RoundUp128, KnowsNoUnitsBeyondItsNumbers) {
+    constexpr qint32 kMostUnits = 2'147'483'520;
+    EXPECT_EQ(RoundUp128(kMostUnits - 1), kMostUnits);
+    EXPECT_EQ(RoundUp128(kMostUnits), kMostUnits);
+    EXPECT_THROW(RoundUp128(kMostUnits + 1), Fault);
+    EXPECT_THROW(RoundUp128(std::numeric_limits<qint32>::max()), Fault);
 }
 
 TEST_F(InstallNow, InstallsAndFindsTheGameInTheRefreshedList) {
@@ -164,6 +179,15 @@ TEST_F(InstallNow, ASizeThatWasNeverReadIsToldAndStartsNothing) {
     EXPECT_TRUE(frmMain.shown());
     EXPECT_TRUE(frmMain.cmdInstall.enabled);
     EXPECT_EQ(frmMain.txtISO.text.get(), "/games/ratchet.iso");
+}
+
+TEST_F(InstallNow, ASizeBeyondAllDisksIsToldAndStartsNothing) {
+    setSpace("4096", "2147483600");
+    ui::click(frmMain.cmdInstall);
+    EXPECT_EQ(ports.dialogs.messages.size(), 1u);
+    EXPECT_TRUE(lastMessage().startsWith("The size of the game, 2147483600 MB, is more than any disk"));
+    EXPECT_EQ(installCommand(), "");
+    EXPECT_TRUE(frmMain.cmdInstall.enabled);
 }
 
 TEST_F(InstallNow, NamesWithBlanksAreQuotedAndTheStartupFileNever) {

@@ -104,6 +104,7 @@ TEST_F(InstallSource, TheFileDialogStartsInTheFolderOfTheSettings) {
     pick("/games/a.iso");
     ASSERT_EQ(ports.dialogs.openFileRequests.size(), 1u);
     EXPECT_EQ(ports.dialogs.openFileRequests[0].folder, "/games/");
+    EXPECT_EQ(ports.dialogs.openFileRequests[0].extension, "*.iso");
     EXPECT_TRUE(ports.dialogs.openFileRequests[0].mustExist);
     EXPECT_TRUE(ports.dialogs.openFileRequests[0].filter.startsWith("ISO Files (*.iso)|*.iso|"));
 }

@@ -62,7 +62,8 @@ TEST_F(DeviceStage, LeavesTheCopyTargetsVisibleWhenThereIsNoDisk) {
 
 TEST_F(DeviceStage, BoundsTheSizeByTheLastMb) {
     queryDisks("\thdd1:  2048MB of 4096 MB, formatted Playstation 2 HDD");
-    EXPECT_EQ(form.cmbHD.text(), "hdd1:  [2.0 GB]");
+    queryDisks("\tMB disk:  3072 MB, formatted Playstation 2 HDD");
+    EXPECT_EQ(form.cmbHD.items(), (QStringList{"hdd1:  [2.0 GB]", "MB disk:  [3.0 GB]"}));
 }
 
 TEST_F(DeviceStage, ReadsTheWholeNumberWhetherItTouchesItsUnitOrNot) {
@@ -85,6 +86,20 @@ TEST_F(DeviceStage, SurvivesALineWithoutANameOrOfGreatLength) {
     queryDisks("formatted Playstation 2 HDD\r\n\thdd1:  1024 MB" + QString(300, 'x') +
                "formatted Playstation 2 HDD\r\n");
     EXPECT_EQ(form.cmbHD.items(), (QStringList{"  [.0 GB]", "hdd1:  [1.0 GB]"}));
+}
+
+TEST_F(DeviceStage, AddsToTheDisksOfTheSettingsWindow) {
+    const ui::ComboBox& disks = shared.frmSettings->cmbHD;
+    for (const char* answer : {"\thdd1:  1024 MB, unknown format\r\n", kTwoDisks}) {
+        shared.blnQuerySettings = true;
+        read(answer);
+        EXPECT_FALSE(shared.blnQuerySettings);
+    }
+    EXPECT_EQ(
+        disks.items(),
+        (QStringList{"hdd1:  [1.0 GB] - Unknown Format", "hdd1:  [111.8 GB] - Playstation2 Formatted",
+                     "hdd2:  [37.3 GB] - Unknown Format", "hdd3:  [232.9 GB] - Playstation2 Formatted"}));
+    EXPECT_EQ(disks.listIndex, 0);
 }
 
 TEST_F(DeviceStage, EndsTheQueryOnAnEmptyAnswer) {

@@ -84,12 +84,6 @@ protected:
         return all;
     }
     int refreshes() const { return static_cast<int>(commands().filter("tarn_toc").size()); }
-    QStringList balloons() const {
-        QStringList texts;
-        for (const auto& balloon : ports.tray.balloons)
-            texts += balloon.text;
-        return texts;
-    }
 };
 
 } // namespace tarnwell::test

@@ -75,7 +75,7 @@ TEST_F(ToolChannelTest, AToolThatCannotBeStartedIsTriedFourTimes) {
     EXPECT_EQ(ports.dialogs.messageTexts(), QStringList(kUnknownError));
 }
 
-TEST_F(ToolChannelTest, AtMidnightTheWaitLastsUntilTheClockHasCaughtUp) {
+TEST_F(ToolChannelTest, AcrossMidnightTheWaitLastsUntilOutputComes) {
     ports.clock.secondsAtZero = 24 * 60 * 60 - 2; // the clock starts at 1 s: one second to midnight
     ports.pump.after(60 * 1000, [this] { ports.launcher.on("query", QByteArray("never asked")); });
     ports.launcher.on("other", QByteArray("output of another run"));
@@ -85,6 +85,21 @@ TEST_F(ToolChannelTest, AtMidnightTheWaitLastsUntilTheClockHasCaughtUp) {
     EXPECT_GE(ports.clock.now - start, 3000) << "two seconds were not enough";
     EXPECT_EQ(ports.launcher.children.size(), 2u);
     EXPECT_TRUE(ports.dialogs.messages.empty());
+}
+
+TEST_F(ToolChannelTest, AcrossMidnightTheWaitLastsUntilTheClockHasCaughtUp) {
+    constexpr int kDay = 24 * 60 * 60 * 1000;
+    ports.clock.secondsAtZero = 24 * 60 * 60 - 11; // the clock starts at 1 s: ten seconds to midnight
+    ports.launcher.script = [this](const QString&) {
+        return ports.launcher.children.empty() ? ChildScript{} : ChildScript{.output = {{"answer"}}};
+    };
+    // Somebody else's work keeps the program busy over midnight, and then for most of the day.
+    ports.pump.after(1000, [this] { ports.clock.now += 20 * 1000; });
+    ports.pump.after(30 * 1000, [this] { ports.clock.now += kDay - 40 * 1000; });
+    const qint64 start = ports.clock.now;
+    EXPECT_EQ(channel.Tarn_Command("query"), "answer");
+    EXPECT_GE(ports.clock.now - start, kDay + 2000);
+    EXPECT_LT(ports.clock.now - start, kDay + 2200);
 }
 
 TEST_F(ToolChannelTest, ABusyChannelIsWaitedForThroughTheAttempts) {

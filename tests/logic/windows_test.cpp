@@ -41,11 +41,11 @@ TEST_F(StartUp, ShowsTheStoredAddress) {
 }
 
 TEST_F(StartUp, OpensTallIfTheActivityIsToBeSeen) {
-    writeFile("config.cfg", "[tarnwell]\r\nViewOutput=1\r\n");
+    writeFile("config.cfg", "[tarnwell]\r\nViewOutput=01\r\n");
     start();
     EXPECT_EQ(frmMain.height, 6365);
     EXPECT_EQ(frmMain.chkOutput.value, 1);
-    EXPECT_EQ(stored("ViewOutput"), "1");
+    EXPECT_EQ(stored("ViewOutput"), "1") << "the value is stored again, as a number";
 }
 
 TEST_F(StartUp, StandsInTheMiddleOfTheScreen) {

@@ -285,7 +285,11 @@ protected:
     }
 
     OpenFileRequest request() const {
-        return {"Select Image", "Images|*.iso|All Files (*.*)|*.*|", folder_.path(), true};
+        return {.title = "Select Image",
+                .filter = "Images|*.iso|All Files (*.*)|*.*|",
+                .folder = folder_.path(),
+                .extension = "*.iso",
+                .mustExist = true};
     }
 
     QString whole(const QString& name) const { return test::native(folder_.filePath(name)); }
@@ -319,6 +323,27 @@ TEST_F(OpenFileTest, AFileThatNeedNotExistMayBeNamed) {
     lenient.mustExist = false;
     type(folder_.filePath("missing.iso"));
     EXPECT_EQ(dialogs_.openFile(lenient), whole("missing.iso"));
+}
+
+TEST_F(OpenFileTest, ANameWithoutAnExtensionGetsOne) {
+    type("game");
+    EXPECT_EQ(dialogs_.openFile(request()), whole("game.iso"));
+    OpenFileRequest lenient = request();
+    lenient.mustExist = false;
+    type("missing");
+    EXPECT_EQ(dialogs_.openFile(lenient), whole("missing.iso"));
+    type("missing.nrg");
+    EXPECT_EQ(dialogs_.openFile(lenient), whole("missing.nrg"));
+}
+
+TEST_F(OpenFileTest, AFileWithoutAnExtensionKeepsItsName) {
+    ASSERT_TRUE(QFile::copy(folder_.filePath("game.iso"), folder_.filePath("image")));
+    OpenFileRequest lenient = request();
+    lenient.mustExist = false;
+    for (const OpenFileRequest& any : {request(), lenient}) {
+        type("image");
+        EXPECT_EQ(dialogs_.openFile(any), whole("image"));
+    }
 }
 
 TEST_F(OpenFileTest, AskingForNothingInParticularOpensThePlatformsOwnDialog) {

@@ -1,8 +1,8 @@
 #include "platform/helpers.h"
 #include "platform/qt/qt_http_listener.h"
+#include "platform/system_helpers.h"
 #include "services/status_page.h"
 
-#include <QDir>
 #include <QFile>
 
 #include <deque>
@@ -11,6 +11,8 @@
 namespace tarnwell {
 namespace {
 
+using test::openHandles;
+using test::processorSeconds;
 using test::pumpUntil;
 
 #if defined(__SANITIZE_ADDRESS__)
@@ -76,20 +78,12 @@ private:
     QTcpSocket socket_;
 };
 
-int openFiles() {
-    return static_cast<int>(QDir("/proc/self/fd").entryList(QDir::Files | QDir::System).size());
-}
-
 qsizetype residentKilobytes() {
     QFile status("/proc/self/status");
     EXPECT_TRUE(status.open(QFile::ReadOnly));
     const QByteArray text = status.readAll();
     const QByteArray label = "VmRSS:";
     return text.mid(text.indexOf(label) + label.size()).trimmed().split(' ').constFirst().toLongLong();
-}
-
-double processorSeconds() {
-    return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
 }
 
 /// A listener that answers as the program does, and remembers what it heard.
@@ -235,17 +229,17 @@ TEST_F(RealHttpListener, ASilentClientKeepsNobodyWaiting) {
 }
 
 TEST_F(RealHttpListener, TwoHundredClientsAreAllServed) {
-    const int filesBefore = openFiles();
+    const int filesBefore = openHandles();
     for (int i = 0; i < 200; ++i) {
         Client client;
         client.send(kRequest);
         ASSERT_TRUE(client.hears(page)) << i;
     }
-    EXPECT_TRUE(pumpUntil([&] { return openFiles() == filesBefore; }));
+    EXPECT_TRUE(pumpUntil([&] { return openHandles() == filesBefore; }));
 }
 
 TEST_F(RealHttpListener, TwoHundredClientsAtOnceLeaveTheLastOneServed) {
-    const int filesBefore = openFiles();
+    const int filesBefore = openHandles();
     std::vector<std::unique_ptr<Client>> clients;
     for (int i = 0; i < 200; ++i) {
         clients.push_back(std::make_unique<Client>());
@@ -256,7 +250,7 @@ TEST_F(RealHttpListener, TwoHundredClientsAtOnceLeaveTheLastOneServed) {
     for (const auto& client : clients)
         EXPECT_TRUE(client->open());
     clients.clear();
-    EXPECT_TRUE(pumpUntil([&] { return openFiles() == filesBefore; }));
+    EXPECT_TRUE(pumpUntil([&] { return openHandles() == filesBefore; }));
 }
 
 TEST_F(RealHttpListener, NobodyCanUseUpTheFilesOfTheProgram) {
@@ -302,18 +296,18 @@ TEST_F(RealHttpListener, AClientThatAsksForEverAndNeverReadsFillsNoMemory) {
 }
 
 TEST_F(RealHttpListener, UnheardClientsFillNoMemoryAndTheirEndIsNoticed) {
-    const int filesBefore = openFiles();
+    const int filesBefore = openHandles();
     for (int i = 0; i < 20; ++i) {
         Client client;
         const Client next;
         EXPECT_TRUE(client.sendAll(QByteArray(1'000'000, 'x')));
     }
     EXPECT_LE(allHeard().size(), 20 * 1000) << "a first piece of each";
-    EXPECT_TRUE(pumpUntil([&] { return openFiles() == filesBefore; }));
+    EXPECT_TRUE(pumpUntil([&] { return openHandles() == filesBefore; }));
 }
 
 TEST_F(RealHttpListener, AClientThatVanishesInTheMiddleHarmsNobody) {
-    const int filesBefore = openFiles();
+    const int filesBefore = openHandles();
     for (int i = 0; i < 20; ++i) {
         Client client;
         client.stopReading();
@@ -327,7 +321,7 @@ TEST_F(RealHttpListener, AClientThatVanishesInTheMiddleHarmsNobody) {
         EXPECT_TRUE(client.hears(page));
         client.vanish();
     }
-    EXPECT_TRUE(pumpUntil([&] { return openFiles() == filesBefore; }));
+    EXPECT_TRUE(pumpUntil([&] { return openHandles() == filesBefore; }));
     listener.send(page);
     Client next;
     next.send(kRequest);

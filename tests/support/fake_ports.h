@@ -174,14 +174,13 @@ public:
         QString text;
     };
 
-    bool present = true; ///< whether the desktop has a tray
     bool shown = false;
     QStringList tips; ///< all that were set, the one of `add` included
     std::vector<Balloon> balloons;
 
     QString tip() const { return tips.isEmpty() ? QString() : tips.last(); }
 
-    bool available() const override { return present; }
+    bool available() const override { return true; }
     void add(const QString& tip) override;
     void setTip(const QString& tip) override { tips.append(tip); }
     void showBalloon(const QString& title, const QString& text) override {

@@ -7,6 +7,7 @@
 #include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFontDialog>
 #include <QFontInfo>
 #include <QFontMetrics>
@@ -53,6 +54,25 @@ QColor toolkitColor(std::int32_t color) {
                   static_cast<int>(bits >> 16 & 0xff));
 }
 
+/// "iso" and "*.iso" are the same.
+QString suffixOf(const QString& extension) {
+    return extension.mid(extension.lastIndexOf(u'.') + 1);
+}
+
+/// The toolkit puts the suffix behind each name that has none, be it that of a file.
+class OpenDialog : public QFileDialog {
+public:
+    using QFileDialog::QFileDialog;
+
+    void accept() override {
+        const QString suffix = defaultSuffix();
+        setDefaultSuffix({});
+        if (!QFileInfo(selectedFiles().value(0)).isFile())
+            setDefaultSuffix(suffix);
+        QFileDialog::accept();
+    }
+};
+
 } // namespace
 
 void QtDialogs::message(const QString& text, MessageIcon icon, const QString& title) {
@@ -86,10 +106,11 @@ std::optional<QString> QtDialogs::input(const QString& prompt, const QString& ti
 }
 
 std::optional<QString> QtDialogs::openFile(const OpenFileRequest& request) {
-    QFileDialog dialog(windowOfTheUser(), request.title, request.folder);
+    OpenDialog dialog(windowOfTheUser(), request.title, request.folder);
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(request.mustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite); // a file that exists is what an open dialog is for
+    dialog.setDefaultSuffix(suffixOf(request.extension));
     return chooseFile(dialog, request.filter);
 }
 
@@ -97,7 +118,7 @@ std::optional<QString> QtDialogs::saveFile(const SaveFileRequest& request) {
     QFileDialog dialog(windowOfTheUser(), request.title, request.folder);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.askBeforeOverwriting);
-    dialog.setDefaultSuffix(request.extension.mid(request.extension.lastIndexOf(u'.') + 1));
+    dialog.setDefaultSuffix(suffixOf(request.extension));
     dialog.selectFile(request.fileName);
     return chooseFile(dialog, request.filter);
 }
