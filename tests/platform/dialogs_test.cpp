@@ -91,7 +91,7 @@ TEST_F(DialogsTest, AMessageShowsItsPlainTextUntilTheUserConfirmsIt) {
         EXPECT_EQ(box.icon(), QMessageBox::Warning);
         EXPECT_EQ(box.standardButtons(), QMessageBox::Ok);
         EXPECT_EQ(box.buttons().size(), 1);
-        EXPECT_EQ(box.parentWidget(), nullptr);
+        EXPECT_EQ(box.parentWidget(), nullptr) << "no window is up";
         box.button(QMessageBox::Ok)->click();
     });
     dialogs_.message("<b>Device</b> & more", MessageIcon::Exclamation, "Tarnwell GUI");
@@ -168,6 +168,81 @@ TEST_F(DialogsTest, AMessageBelongsToTheWindowThatTheUserIsAt) {
         box.accept();
     });
     dialogs_.message("text", MessageIcon::Exclamation, "title");
+}
+
+/// The user is at another program, while this one has some windows up.
+class InactiveProgramTest : public DialogsTest {
+protected:
+    InactiveProgramTest() {
+        onTop_.setWindowFlag(Qt::WindowStaysOnTopHint);
+        for (QWidget* const window : {&first_, &onTop_, &last_})
+            window->show();
+        leave();
+    }
+
+    static void leave() {
+        QCoreApplication::processEvents();
+        QApplication::setActiveWindow(nullptr);
+    }
+
+    const QWidget* ownerOfAMessage() {
+        const QWidget* owner = nullptr;
+        whenOpen<QMessageBox>([&](QMessageBox& box) {
+            owner = box.parentWidget();
+            box.accept();
+        });
+        dialogs_.message("text", MessageIcon::Exclamation, "title");
+        return owner;
+    }
+
+    QWidget first_, onTop_, last_;
+};
+
+TEST_F(InactiveProgramTest, AMessageIsNotCoveredByAWindowThatStaysOnTop) {
+    EXPECT_EQ(ownerOfAMessage(), &onTop_);
+}
+
+TEST_F(InactiveProgramTest, AMessageBelongsToAWindowThatIsToBeSeen) {
+    onTop_.showMinimized();
+    last_.hide();
+    leave();
+    EXPECT_EQ(ownerOfAMessage(), &first_);
+    first_.hide();
+    leave();
+    EXPECT_EQ(ownerOfAMessage(), nullptr);
+}
+
+TEST_F(InactiveProgramTest, AMessageIsNotCoveredByOneThatIsOpen) {
+    const QWidget* owner = nullptr;
+    whenOpen<QMessageBox>([&](QMessageBox& first) {
+        leave();
+        owner = ownerOfAMessage();
+        EXPECT_EQ(owner, &first);
+        first.accept();
+    });
+    dialogs_.message("first", MessageIcon::Exclamation, "title");
+    EXPECT_NE(owner, nullptr);
+}
+
+TEST_F(InactiveProgramTest, EveryBoxBelongsToTheWindowThatStaysOnTop) {
+    using Open = std::function<void(QtDialogs&)>;
+    for (const Open& open :
+         {Open([](QtDialogs& dialogs) { dialogs.question("text", "title", MessageIcon::Exclamation); }),
+          Open([](QtDialogs& dialogs) { dialogs.input("prompt", "title", "text"); }),
+          Open([](QtDialogs& dialogs) { dialogs.openFile({}); }),
+          Open([](QtDialogs& dialogs) { dialogs.saveFile({}); }),
+          Open([](QtDialogs& dialogs) { dialogs.chooseFolder({}); }),
+          Open([](QtDialogs& dialogs) { dialogs.chooseFont({}); }),
+          Open([](QtDialogs& dialogs) { dialogs.chooseColor(0); })}) {
+        const QWidget* owner = nullptr;
+        whenOpen<QDialog>([&](QDialog& dialog) {
+            owner = dialog.parentWidget();
+            dialog.reject();
+        });
+        leave();
+        open(dialogs_);
+        EXPECT_EQ(owner, &onTop_);
+    }
 }
 
 TEST_F(DialogsTest, AMessageOfAnyLengthFitsTheScreen) {

@@ -16,9 +16,26 @@ namespace tarnwell {
 
 namespace {
 
+/// On Windows, what a minimised window owns is as little to be seen as the window.
+bool inSight(const QWidget* window) {
+    return window != nullptr && window->isVisible() && !window->isMinimized() &&
+           (window->windowType() == Qt::Window || window->windowType() == Qt::Dialog);
+}
+
+/// While the user is at another program no window is active. But a box that belongs to none would open
+/// underneath the windows that stay on top, and the program would seem to hang.
 QWidget* windowOfTheUser() {
-    QWidget* const window = QApplication::activeWindow();
-    return window != nullptr && window->isVisible() ? window : nullptr;
+    for (QWidget* const window : {QApplication::activeWindow(), QApplication::activeModalWidget()}) {
+        if (inSight(window))
+            return window;
+    }
+    QWidget* result = nullptr;
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+        const bool before = result == nullptr || window->windowFlags().testFlag(Qt::WindowStaysOnTopHint);
+        if (before && inSight(window))
+            result = window;
+    }
+    return result;
 }
 
 QMessageBox::Icon toolkitIcon(MessageIcon icon) {

@@ -8,7 +8,8 @@ class QFileDialog;
 
 namespace tarnwell {
 
-/// Boxes of the desktop, in front of the window that the user is at.
+/// Boxes of the desktop, in front of the window that the user is at; of all windows if the user is at another
+/// program.
 class QtDialogs : public Dialogs {
 public:
     explicit QtDialogs(const QtEventPump& pump) : pump_(pump) {}
