@@ -37,6 +37,12 @@ TEST(SystemFolders, TheProgramFolderIsThatOfTheRunningProgram) {
     EXPECT_EQ(folders.programFolder(), helper.left(helper.lastIndexOf(QDir::separator())));
 }
 
+TEST(SystemFolders, APathOfTheCodePageIsWrittenAsItIs) {
+    const QString path = QDir::toNativeSeparators(QDir::tempPath() + '/');
+    EXPECT_EQ(QtSystemFolders().pathInCodePage(path), path);
+    EXPECT_EQ(QtSystemFolders().pathInCodePage(QString(QChar(0xD800))), "") << "half a character";
+}
+
 TEST(SystemFolders, TheCommandInterpreterIsAProgram) {
     EXPECT_TRUE(QFileInfo(QtSystemFolders().commandInterpreter()).isExecutable());
 }
