@@ -341,6 +341,26 @@ TEST_F(ReplacedFile, IsOldOrNewWhereverTheWriteIsInterrupted) {
 }
 
 TEST_F(ReplacedFile, IsLeftAsItWasIfItsFolderIsGone) {
-    EXPECT_THROW(ReplaceFile(path("nowhere/tarnwell.conf"), "x"), Fault);
+    int steps = 0;
+    EXPECT_THROW(ReplaceFile(path("nowhere/tarnwell.conf"), "x", [&] { ++steps; }), Fault);
     EXPECT_FALSE(QFile::exists(path("nowhere")));
+    EXPECT_EQ(steps, 1) << "it is not tried again";
+}
+
+TEST_F(ReplacedFile, IsTriedAgainWhileSomebodyHoldsItsPlace) {
+    // A folder of the file's name, there at the last step of a try only, keeps the new file from its place.
+    constexpr int kStepsOfATry = 4;
+    const QString place = path("tarnwell.conf");
+    const auto replaceWhileHeld = [&](int tries) {
+        int steps = 0;
+        ReplaceFile(place, "new", [&] {
+            QDir().rmdir(place);
+            if (++steps % kStepsOfATry == 0 && steps / kStepsOfATry <= tries)
+                QDir().mkdir(place);
+        });
+    };
+    replaceWhileHeld(3);
+    EXPECT_EQ(readFrom(place), "new");
+    QFile::remove(place);
+    EXPECT_THROW(replaceWhileHeld(1000), Fault);
 }
