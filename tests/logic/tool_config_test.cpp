@@ -159,11 +159,12 @@ TEST_F(ToolConfigText, TheAddressOfTheFileIsNotTakenOver) {
 }
 
 TEST_F(ToolConfigText, TheThrottleIsANumber) {
-    for (const auto& [text, value] : {std::pair{"1", 1}, {"0.5", 0}, {"1.5", 2}, {"yes", 0}, {"1 day", 1}}) {
+    for (const auto& [text, value] :
+         {std::pair{"1", 1}, {"0.5", 0}, {"1.5", 2}, {"2.4", 2}, {"-0.4", 0}, {"yes", 0}, {"1 day", 1}}) {
         read(QString("auto_throttle = %1\n").arg(text));
         EXPECT_EQ(frmSettings.chkAutoThrottle.value, value) << text;
     }
-    for (const char* text : {"7", "-1", "1e300", "99999999999999999999"}) {
+    for (const char* text : {"7", "2.6", "-0.6", "-1", "1e300", "99999999999999999999"}) {
         read("auto_throttle = 1\n");
         read(QString("auto_throttle = %1\n").arg(text));
         EXPECT_EQ(frmSettings.chkAutoThrottle.value, 1) << text << " fits no check box";
