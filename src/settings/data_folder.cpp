@@ -27,9 +27,10 @@ bool holdsPlainFile(const QString& folder) {
     return FileExists(folder + '*');
 }
 
-/// A root keeps its separator.
+/// A root keeps its separator. The folders of a Windows profile have backslashes wherever they are looked at.
 QString forPicker(const QString& folder) {
-    return folder.size() > kRoot && folder.endsWith(QDir::separator()) ? folder.chopped(1) : folder;
+    const bool ends = folder.endsWith(QDir::separator()) || folder.endsWith(u'\\');
+    return folder.size() > kRoot && ends ? folder.chopped(1) : folder;
 }
 
 } // namespace

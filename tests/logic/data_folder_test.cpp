@@ -179,6 +179,15 @@ TEST_F(WindowsProfileTest, TheFirstFormComesBeforeTheSecond) {
     EXPECT_TRUE(ports.dialogs.messages.empty());
 }
 
+TEST_F(WindowsProfileTest, AStoredFolderWithoutTheFileGivesWayToTheFirstFormSilently) {
+    writeFile("config.cfg", "[tarnwell]\r\nApplicationData=" + makeFolder("mine").toLocal8Bit() + "\r\n");
+    QDir().mkdir(kFirst);
+    start();
+    expectFolder(kFirst);
+    EXPECT_TRUE(ports.dialogs.messages.empty());
+    EXPECT_TRUE(ports.dialogs.chooseFolderRequests.empty());
+}
+
 TEST_F(WindowsProfileTest, TheSecondFormServesIfTheFirstIsMissing) {
     QDir().mkdir(kSecond);
     start();
@@ -209,6 +218,8 @@ TEST_F(WindowsProfileTest, ThePickerStartsAtTheProfileIfItHoldsAFile) {
     startAndOpen();
     ui::click(frmSettings->cmdApplicationData);
     EXPECT_EQ(frmSettings->txtDefaultPath.text.get(), profile);
+    ASSERT_EQ(ports.dialogs.chooseFolderRequests.size(), 1u);
+    EXPECT_EQ(ports.dialogs.chooseFolderRequests[0].folder, profile.chopped(1));
 }
 
 TEST_F(WindowsProfileTest, UseDefaultsAsksTheUserIfOnlyTheSecondFormIsThere) {
