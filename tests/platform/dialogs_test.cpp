@@ -99,20 +99,26 @@ TEST_F(DialogsTest, AMessageShowsItsPlainTextUntilTheUserConfirmsIt) {
 }
 
 TEST_F(DialogsTest, AStopMessageHasTheStopIcon) {
-    whenOpen<QMessageBox>([](QMessageBox& box) {
+    bool seen = false;
+    whenOpen<QMessageBox>([&](QMessageBox& box) {
+        seen = true;
         EXPECT_EQ(box.icon(), QMessageBox::Critical);
         box.reject();
     });
     dialogs_.message("Unexpected error.", MessageIcon::Stop, "Tarnwell GUI");
+    EXPECT_TRUE(seen);
 }
 
 TEST_F(DialogsTest, AMessageThatAsksSomethingOfTheUserHasTheQuestionMark) {
-    whenOpen<QMessageBox>([](QMessageBox& box) {
+    bool seen = false;
+    whenOpen<QMessageBox>([&](QMessageBox& box) {
+        seen = true;
         EXPECT_EQ(box.icon(), QMessageBox::Question);
         EXPECT_EQ(box.standardButtons(), QMessageBox::Ok);
         box.accept();
     });
     dialogs_.message("Leave this open.", MessageIcon::Question, "Tarnwell GUI");
+    EXPECT_TRUE(seen);
 }
 
 TEST_F(DialogsTest, AQuestionIsAnsweredByYesOnly) {
@@ -501,13 +507,16 @@ TEST_F(SaveFileTest, WithoutAFolderTheDialogStartsWhereItLastWas) {
 }
 
 TEST_F(DialogsTest, TheGravestQuestionWearsTheStopSignAndProposesNo) {
-    whenOpen<QMessageBox>([](QMessageBox& box) {
+    bool seen = false;
+    whenOpen<QMessageBox>([&](QMessageBox& box) {
+        seen = true;
         EXPECT_EQ(box.icon(), QMessageBox::Critical);
         EXPECT_EQ(box.windowTitle(), "ARE YOU 100% SURE?");
         EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::No));
         QMetaObject::invokeMethod(box.defaultButton(), "click");
     });
     EXPECT_FALSE(dialogs_.question("text", "ARE YOU 100% SURE?", MessageIcon::Stop));
+    EXPECT_TRUE(seen);
 }
 
 TEST_F(DialogsTest, AFolderIsChosenFromTheOneThatItStartsIn) {

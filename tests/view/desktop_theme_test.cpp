@@ -13,8 +13,6 @@ namespace tarnwell::view {
 
 namespace {
 
-constexpr std::int32_t kWhite = 0xFFFFFF, kBlack = 0;
-
 /// A style that goes by the name of Windows' own.
 class ThemedStyle final : public QProxyStyle {
 public:
@@ -22,6 +20,7 @@ public:
 };
 
 void useWhiteOnBlack(ui::Form& form) {
+    constexpr std::int32_t kWhite = 0xFFFFFF, kBlack = 0;
     form.backColor = kBlack;
     for (ui::Control* control : form.controls()) {
         if (control->hasColors()) {
