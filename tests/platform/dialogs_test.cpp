@@ -75,10 +75,16 @@ void whenOpen(std::function<void(Dialog&)> act, QObject* context = qApp) {
     });
 }
 
+constexpr std::int32_t kCoral = -7; ///< known to the windows alone
+
+QColor colorOfTheWindows(std::int32_t color) {
+    return color == kCoral ? QColor(255, 127, 80) : QColor();
+}
+
 class DialogsTest : public testing::Test {
 protected:
     QtEventPump pump_;
-    QtDialogs dialogs_{pump_};
+    QtDialogs dialogs_{pump_, colorOfTheWindows};
 };
 
 TEST_F(DialogsTest, AMessageShowsItsPlainTextUntilTheUserConfirmsIt) {
@@ -326,7 +332,7 @@ TEST_F(DialogsTest, TheEndOfTheProgramClosesAnOpenDialogAndItsHandlerGoesNoFurth
           Open([](QtDialogs& dialogs) { dialogs.chooseFont({}); }),
           Open([](QtDialogs& dialogs) { dialogs.chooseColor(0); })}) {
         QtEventPump pump;
-        QtDialogs dialogs(pump);
+        QtDialogs dialogs(pump, colorOfTheWindows);
         bool thrown = false;
         runProgram(pump, [&] {
             QTimer::singleShot(20, qApp, [&] { pump.end(); });
@@ -555,17 +561,13 @@ TEST_F(DialogsTest, AFontIsChosenFromTheOneThatItStartsAt) {
 
 TEST_F(DialogsTest, AColourIsChosenFromTheOneThatItStartsAt) {
     whenOpen<QColorDialog>([](QColorDialog& dialog) {
-        EXPECT_EQ(dialog.currentColor(), QColor(0x11, 0x22, 0x33));
+        EXPECT_EQ(dialog.currentColor(), QColor(255, 127, 80));
         dialog.setCurrentColor(QColor(0x44, 0x55, 0x66));
         dialog.accept();
     });
-    EXPECT_EQ(dialogs_.chooseColor(0x332211), 0x665544);
-    constexpr std::int32_t kButtonText = -2147483630;
-    whenOpen<QColorDialog>([](QColorDialog& dialog) {
-        EXPECT_EQ(dialog.currentColor(), QApplication::palette().color(QPalette::ButtonText));
-        dialog.reject();
-    });
-    EXPECT_EQ(dialogs_.chooseColor(kButtonText), std::nullopt);
+    EXPECT_EQ(dialogs_.chooseColor(kCoral), 0x665544);
+    whenOpen<QColorDialog>([](QColorDialog& dialog) { dialog.reject(); });
+    EXPECT_EQ(dialogs_.chooseColor(kCoral), std::nullopt);
 }
 
 } // namespace

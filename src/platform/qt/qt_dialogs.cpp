@@ -61,15 +61,6 @@ QFont toolkitFont(const ui::Font& font) {
     return result;
 }
 
-QColor toolkitColor(std::int32_t color) {
-    constexpr std::uint32_t kSystemColor = 0x80000000, kButtonText = kSystemColor | 18;
-    const auto bits = static_cast<std::uint32_t>(color);
-    if (bits & kSystemColor)
-        return QApplication::palette().color(bits == kButtonText ? QPalette::ButtonText : QPalette::Button);
-    return QColor(static_cast<int>(bits & 0xff), static_cast<int>(bits >> 8 & 0xff),
-                  static_cast<int>(bits >> 16 & 0xff));
-}
-
 } // namespace
 
 void QtDialogs::message(const QString& text, MessageIcon icon, const QString& title) {
@@ -137,7 +128,7 @@ std::optional<ui::Font> QtDialogs::chooseFont(const ui::Font& current) {
 }
 
 std::optional<std::int32_t> QtDialogs::chooseColor(std::int32_t current) {
-    QColorDialog dialog(toolkitColor(current), windowOfTheUser());
+    QColorDialog dialog(toColor_(current), windowOfTheUser());
     if (waitFor(dialog) != QDialog::Accepted)
         return std::nullopt;
     const QColor color = dialog.selectedColor();

@@ -2,6 +2,7 @@
 
 #include "platform/qt/qt_event_pump.h"
 
+#include <QColor>
 #include <QMessageBox>
 
 class QFileDialog;
@@ -12,7 +13,9 @@ namespace tarnwell {
 /// program.
 class QtDialogs : public Dialogs {
 public:
-    explicit QtDialogs(const QtEventPump& pump) : pump_(pump) {}
+    /// `toColor` tells how the windows show a colour of the model.
+    QtDialogs(const QtEventPump& pump, std::function<QColor(std::int32_t)> toColor)
+        : pump_(pump), toColor_(std::move(toColor)) {}
 
     void message(const QString& text, MessageIcon icon, const QString& title) override;
     bool question(const QString& text, const QString& title, MessageIcon icon) override;
@@ -30,6 +33,7 @@ private:
     std::optional<QString> chooseFile(QFileDialog& dialog, const QString& filter) const;
 
     const QtEventPump& pump_;
+    std::function<QColor(std::int32_t)> toColor_;
 };
 
 } // namespace tarnwell

@@ -134,7 +134,7 @@ TEST_F(SystemDialogs, AreClosedByTheEndOfTheProgram) {
                              Open([](QtDialogs& dialogs) { dialogs.saveFile({}); }),
                              Open([](QtDialogs& dialogs) { dialogs.chooseFolder({}); })}) {
         QtEventPump pump;
-        QtDialogs dialogs(pump);
+        QtDialogs dialogs(pump, [](std::int32_t) { return QColor(); });
         bool ended = false;
         test::runProgram(pump, [&] {
             QTimer::singleShot(1000, qApp, [&] { pump.end(); });
