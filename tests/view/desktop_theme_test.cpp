@@ -1,3 +1,4 @@
+#include "ui/qt/desktop_theme.h"
 #include "view/view_fixture.h"
 
 #include <QCheckBox>
@@ -6,6 +7,7 @@
 #include <QLabel>
 #include <QProxyStyle>
 #include <QPushButton>
+#include <QStyleFactory>
 #include <QTabBar>
 #include <QTreeView>
 
@@ -64,6 +66,19 @@ TEST_F(ThemedDesktop, WritesInItsOwnInkOnWhatItDrawsItself) {
     QApplication::processEvents();
     look();
     QApplication::setPalette(QPalette());
+}
+
+TEST(DrawnByTheme, TellsTheStylesOfThisSystemApart) {
+    QPushButton button;
+    const QLabel label;
+    for (const QString& name : QStyleFactory::keys()) {
+        const std::unique_ptr<QStyle> style(QStyleFactory::create(name));
+        button.setStyle(style.get());
+        EXPECT_EQ(drawnByTheme(button), name.startsWith("windows", Qt::CaseInsensitive))
+            << name.toStdString();
+        button.setStyle(nullptr);
+    }
+    EXPECT_FALSE(drawnByTheme(label));
 }
 
 TEST_F(ThemedDesktop, WritesInItsOwnInkOnTabs) {
