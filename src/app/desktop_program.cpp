@@ -1,5 +1,6 @@
 #include "app/desktop_program.h"
 
+#include "ui/qt/appearance.h"
 #include "ui/qt/application_icon.h"
 #include "ui/qt/event_watcher.h"
 
@@ -12,7 +13,8 @@ namespace tarnwell {
 
 DesktopProgram::DesktopProgram(const QtSystemFolders& folders)
     : ports_(
-          view::applicationIcon(), [this] { return mainWindow_.currentScale().pixelsPerTwip(); }, folders),
+          view::applicationIcon(), [this] { return mainWindow_.currentScale().pixelsPerTwip(); },
+          view::toColor, folders),
       program_(ports_.ports()), mainWindow_(program_.shared().frmMain),
       settingsWindow_(program_.shared().frmSettings.untouched()),
       statusWindow_(program_.shared().frmStatus.untouched()),

@@ -37,10 +37,10 @@ void HideAndRestore::restore() {
     // A tag in its bar means that the status window has shown a job and was not closed since.
     const bool statusWasUsed = !shared_.frmStatus.untouched().picCurrent.tag.get().isEmpty();
     if (shared_.jobRunning())
-        shared_.frmStatus->show();
-    shared_.frmMain.show();
+        shared_.frmStatus->showRestored();
+    shared_.frmMain.showRestored();
     if (!shared_.jobRunning() && statusWasUsed)
-        shared_.frmStatus->show();
+        shared_.frmStatus->showRestored();
     shared_.frmMain.mnuMinimize.caption = kMinimize;
 }
 

@@ -8,7 +8,8 @@
 namespace tarnwell {
 
 /// Puts `bytes` in the place of a file, as a whole: whatever goes wrong on the way, the old file stands. A
-/// failure is a Fault. `beforeStep` is called before each single step on the disk and may throw.
+/// failure is a Fault. A file that another program holds is waited for, 60 milliseconds at most. `beforeStep`
+/// is called before each single step on the disk and may throw.
 void ReplaceFile(const QString& path, const QByteArray& bytes, const std::function<void()>& beforeStep = {});
 
 /// The same for files whose failure nobody is told of. Whether the new bytes are there.

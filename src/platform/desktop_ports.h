@@ -16,6 +16,7 @@ namespace tarnwell {
 /// program has ended.
 struct DesktopPorts {
     DesktopPorts(const QIcon& icon, std::function<double()> pixelsPerTwip,
+                 std::function<QColor(std::int32_t)> toColor,
                  QtSystemFolders systemFolders = QtSystemFolders());
 
     Ports ports();

@@ -38,6 +38,10 @@ QString commandInterpreter();
 QString applicationData();
 std::optional<WindowsProfile> windowsProfile();
 
+/// The other name that Windows keeps for a file or folder, of few and plain characters; empty if there is
+/// none.
+QString shortPath(const QString& path);
+
 std::unique_ptr<Processes> makeProcesses();
 std::unique_ptr<Sound> makeSound();
 std::unique_ptr<Power> makePower();

@@ -248,6 +248,10 @@ public:
     virtual QString applicationData() const = 0;
     /// Nothing on systems other than Windows.
     virtual std::optional<WindowsProfile> windowsProfile() const = 0;
+    /// A name of a file or folder that is there, in characters of the system's 8-bit code page: the path
+    /// itself or, where the system keeps one, its short form; empty if neither will do. A separator at its
+    /// end stays.
+    virtual QString pathInCodePage(const QString& path) const = 0;
 };
 
 /// The screen and what belongs to it, in the twips of the windows.

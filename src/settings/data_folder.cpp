@@ -27,9 +27,10 @@ bool holdsPlainFile(const QString& folder) {
     return FileExists(folder + '*');
 }
 
-/// A root keeps its separator.
+/// A root keeps its separator. The folders of a Windows profile have backslashes wherever they are looked at.
 QString forPicker(const QString& folder) {
-    return folder.size() > kRoot && folder.endsWith(QDir::separator()) ? folder.chopped(1) : folder;
+    const bool ends = folder.endsWith(QDir::separator()) || folder.endsWith(u'\\');
+    return folder.size() > kRoot && ends ? folder.chopped(1) : folder;
 }
 
 } // namespace
@@ -62,14 +63,22 @@ void DataFolder::reset() {
         shared_.frmSettings->cmdApplicationData.Click();
         return;
     }
-    shared_.frmSettings->txtDiscDatabase.text = folder + "tarnwell.list";
+    auto& frmSettings = shared_.frmSettings;
+    frmSettings->txtDiscDatabase.text = frmSettings->txtApplicationData.text + "tarnwell.list";
 }
 
 bool DataFolder::takeIfThere(const QString& folder) {
-    if (!DirExists(folder))
+    const QString known = storable(folder);
+    if (!DirExists(known))
         return false;
-    take(folder);
+    take(known);
     return true;
+}
+
+/// The store and the tool's file are kept in the system's 8-bit code page. A folder that cannot be written in
+/// it, such as that of a user with a name from elsewhere, counts as not there.
+QString DataFolder::storable(const QString& folder) const {
+    return shared_.ports.folders.pathInCodePage(folder);
 }
 
 void DataFolder::take(const QString& folder) {
@@ -95,8 +104,8 @@ void DataFolder::choose() {
         {.title = pickerTitle(), .folder = forPicker(frmSettings->txtDefaultPath.text)});
     if (!chosen)
         return;
-    const QString folder = WithSeparator(*chosen);
-    if (!ToolConfig::existsIn(folder)) {
+    const QString folder = storable(WithSeparator(*chosen));
+    if (folder.isEmpty() || !ToolConfig::existsIn(folder)) {
         shared_.message(
             "The tarnwell configuration file was not found in the selected directory. If you feel "
             "that you selected the correct directory and you still get this error message, try "

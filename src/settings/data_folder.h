@@ -19,6 +19,7 @@ public:
 private:
     void take(const QString& folder);
     bool takeIfThere(const QString& folder);
+    QString storable(const QString& folder) const;
     void askUser();
     void choose();
     void enableToolSettings(bool enable);

@@ -37,7 +37,7 @@ void SettingsWindow::show() {
     auto& frmSettings = shared_.frmSettings;
     frmSettings->TabStrip.selectedTab = ui::FrmSettings::kTarnwellTab;
     frmSettings->centreOver(shared_.frmMain);
-    frmSettings->show();
+    frmSettings->showRestored();
 }
 
 void SettingsWindow::switchPage() {

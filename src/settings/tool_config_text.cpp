@@ -2,6 +2,8 @@
 
 #include "interpreter/text_primitives.h"
 
+#include <cmath>
+
 namespace tarnwell {
 
 namespace {
@@ -96,9 +98,9 @@ QString WriteToolConfig(const QString& folder, ui::FrmSettings& frmSettings, ui:
 
 void SetCheckBox(ui::CheckBox& box, const QString& number) {
     constexpr double kGreyed = 2;
-    const double value = Val(number);
+    const double value = std::nearbyint(Val(number)); // halves go to the even neighbour
     if (value >= 0 && value <= kGreyed)
-        box.value = RoundToInt16(value);
+        box.value = static_cast<int>(value);
 }
 
 } // namespace tarnwell

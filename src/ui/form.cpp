@@ -19,6 +19,12 @@ void Form::show() {
     visible = true;
 }
 
+void Form::showRestored() {
+    load();
+    windowState = WindowState::Normal;
+    visible = true;
+}
+
 void Form::hide() {
     visible = false;
 }

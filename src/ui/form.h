@@ -33,8 +33,9 @@ public:
     bool loaded() const { return loaded_; }
     bool shown() const { return visible; }
 
-    void load(); ///< runs Load unless the window is loaded
-    void show(); ///< loads it if need be
+    void load();         ///< runs Load unless the window is loaded
+    void show();         ///< loads it if need be
+    void showRestored(); ///< the same, and not minimised any more
     void hide();
     void centreOver(const Form& other); ///< may be called before the window is shown
     /// Closes the window: every control goes back to its declared start state. Returns false if a handler

@@ -90,6 +90,38 @@ TEST_F(DataFolderTest, AStoredFolderStandsEvenIfTheSystemNamesNone) {
     EXPECT_TRUE(ports.dialogs.messages.empty());
 }
 
+TEST_F(DataFolderTest, AFolderOutsideTheCodePageIsKnownByItsOtherName) {
+    const QString shortName = makeFolder("ULIA~1");
+    ports.folders.namesInCodePage[ports.folders.data + QDir::separator()] = shortName;
+    startAndOpen();
+    expectFolder(shortName);
+    store("ApplicationData", "");
+    ui::click(frmSettings->cmdDefaults);
+    expectFolder(shortName);
+    EXPECT_TRUE(ports.dialogs.messageTexts().isEmpty());
+}
+
+TEST_F(DataFolderTest, AFolderOutsideTheCodePageIsNoneIfItHasNoOtherName) {
+    ports.folders.namesInCodePage[ports.folders.data + QDir::separator()] = QString();
+    const QString folder = makeFolder("mine", true);
+    ports.dialogs.chooseFolderAnswers.push_back(folder);
+    start();
+    EXPECT_EQ(ports.dialogs.messageTexts(), QStringList(kLocate));
+    expectFolder(folder);
+}
+
+TEST_F(DataFolderTest, AChosenFolderOutsideTheCodePageIsKnownByItsOtherNameOrNotTaken) {
+    startAndOpen();
+    const QString chosen = makeFolder("chosen", true), shortName = makeFolder("CHOSEN~1", true);
+    ports.folders.namesInCodePage[chosen] = shortName;
+    choose(chosen);
+    expectFolder(shortName);
+    ports.folders.namesInCodePage[chosen] = QString();
+    choose(chosen);
+    EXPECT_EQ(lastMessage(), kNotFound);
+    expectFolder(shortName);
+}
+
 TEST_F(DataFolderTest, TheUserIsAskedOnTheGuiPageIfThereIsNone) {
     const QString folder = makeFolder("mine", true);
     writeTo(folder + "tarnwell.conf", "target_kbps = 77\n");
@@ -147,6 +179,15 @@ TEST_F(WindowsProfileTest, TheFirstFormComesBeforeTheSecond) {
     EXPECT_TRUE(ports.dialogs.messages.empty());
 }
 
+TEST_F(WindowsProfileTest, AStoredFolderWithoutTheFileGivesWayToTheFirstFormSilently) {
+    writeFile("config.cfg", "[tarnwell]\r\nApplicationData=" + makeFolder("mine").toLocal8Bit() + "\r\n");
+    QDir().mkdir(kFirst);
+    start();
+    expectFolder(kFirst);
+    EXPECT_TRUE(ports.dialogs.messages.empty());
+    EXPECT_TRUE(ports.dialogs.chooseFolderRequests.empty());
+}
+
 TEST_F(WindowsProfileTest, TheSecondFormServesIfTheFirstIsMissing) {
     QDir().mkdir(kSecond);
     start();
@@ -177,6 +218,8 @@ TEST_F(WindowsProfileTest, ThePickerStartsAtTheProfileIfItHoldsAFile) {
     startAndOpen();
     ui::click(frmSettings->cmdApplicationData);
     EXPECT_EQ(frmSettings->txtDefaultPath.text.get(), profile);
+    ASSERT_EQ(ports.dialogs.chooseFolderRequests.size(), 1u);
+    EXPECT_EQ(ports.dialogs.chooseFolderRequests[0].folder, profile.chopped(1));
 }
 
 TEST_F(WindowsProfileTest, UseDefaultsAsksTheUserIfOnlyTheSecondFormIsThere) {

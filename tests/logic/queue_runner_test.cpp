@@ -162,6 +162,7 @@ TEST_F(QueueRunner, TheStatusWindowIsCentredUnlessItIsMinimised) {
     EXPECT_EQ(frmStatus->left, 1000 + frmMain.width / 2 - frmStatus->width / 2);
     EXPECT_EQ(frmStatus->top, 2000 + frmMain.height / 2 - frmStatus->height / 2);
 
+    showMain();
     frmStatus->left = 77;
     frmStatus->windowState = ui::WindowState::Minimised;
     runQueue();

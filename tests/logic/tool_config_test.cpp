@@ -159,11 +159,12 @@ TEST_F(ToolConfigText, TheAddressOfTheFileIsNotTakenOver) {
 }
 
 TEST_F(ToolConfigText, TheThrottleIsANumber) {
-    for (const auto& [text, value] : {std::pair{"1", 1}, {"0.5", 0}, {"1.5", 2}, {"yes", 0}, {"1 day", 1}}) {
+    for (const auto& [text, value] :
+         {std::pair{"1", 1}, {"0.5", 0}, {"1.5", 2}, {"2.4", 2}, {"-0.4", 0}, {"yes", 0}, {"1 day", 1}}) {
         read(QString("auto_throttle = %1\n").arg(text));
         EXPECT_EQ(frmSettings.chkAutoThrottle.value, value) << text;
     }
-    for (const char* text : {"7", "-1", "1e300", "99999999999999999999"}) {
+    for (const char* text : {"7", "2.6", "-0.6", "-1", "1e300", "99999999999999999999"}) {
         read("auto_throttle = 1\n");
         read(QString("auto_throttle = %1\n").arg(text));
         EXPECT_EQ(frmSettings.chkAutoThrottle.value, 1) << text << " fits no check box";
@@ -341,6 +342,26 @@ TEST_F(ReplacedFile, IsOldOrNewWhereverTheWriteIsInterrupted) {
 }
 
 TEST_F(ReplacedFile, IsLeftAsItWasIfItsFolderIsGone) {
-    EXPECT_THROW(ReplaceFile(path("nowhere/tarnwell.conf"), "x"), Fault);
+    int steps = 0;
+    EXPECT_THROW(ReplaceFile(path("nowhere/tarnwell.conf"), "x", [&] { ++steps; }), Fault);
     EXPECT_FALSE(QFile::exists(path("nowhere")));
+    EXPECT_EQ(steps, 1) << "it is not tried again";
+}
+
+TEST_F(ReplacedFile, IsTriedAgainWhileSomebodyHoldsItsPlace) {
+    // A folder of the file's name, there at the last step of a try only, keeps the new file from its place.
+    constexpr int kStepsOfATry = 4;
+    const QString place = path("tarnwell.conf");
+    const auto replaceWhileHeld = [&](int tries) {
+        int steps = 0;
+        ReplaceFile(place, "new", [&] {
+            QDir().rmdir(place);
+            if (++steps % kStepsOfATry == 0 && steps / kStepsOfATry <= tries)
+                QDir().mkdir(place);
+        });
+    };
+    replaceWhileHeld(3);
+    EXPECT_EQ(readFrom(place), "new");
+    QFile::remove(place);
+    EXPECT_THROW(replaceWhileHeld(1000), Fault);
 }

@@ -179,6 +179,37 @@ TEST_F(Windows, ADoubleClickOnTheTrayBringsAUsedStatusWindowBack) {
     EXPECT_FALSE(frmStatus.untouched().shown()) << "it was closed since";
 }
 
+TEST_F(Windows, ADoubleClickOnTheTrayBringsBackWhatWasMinimised) {
+    useStatus();
+    program.shared().blnQueueRunning = true;
+    const std::initializer_list<ui::Form*> both{&frmMain, &frmStatus.untouched()};
+    for (const bool hidden : {false, true}) {
+        for (ui::Form* form : both)
+            form->windowState = ui::WindowState::Minimised;
+        if (hidden)
+            ui::click(frmMain.mnuMinimize);
+        ports.tray.doubleClicked();
+        for (const ui::Form* form : both) {
+            EXPECT_TRUE(form->shown());
+            EXPECT_EQ(form->windowState, ui::WindowState::Normal) << form->name.toStdString();
+        }
+    }
+}
+
+TEST_F(Windows, ADoubleClickOnTheTrayBringsBackAMinimisedStatusWindowAfterItsJobs) {
+    useStatus();
+    frmStatus->windowState = ui::WindowState::Minimised;
+    ports.tray.doubleClicked();
+    EXPECT_EQ(frmStatus->windowState, ui::WindowState::Normal);
+}
+
+TEST_F(Windows, TheSettingsComeBackIfTheyWereMinimised) {
+    ui::click(frmMain.cmdSettings);
+    program.shared().frmSettings->windowState = ui::WindowState::Minimised;
+    ui::click(frmMain.cmdSettings);
+    EXPECT_EQ(program.shared().frmSettings->windowState, ui::WindowState::Normal);
+}
+
 TEST_F(Windows, ARightClickOnTheTrayOpensItsMenuWhetherTheWindowIsUpOrNot) {
     int opened = 0;
     frmMain.mnuSystray.poppedUpAtPointer.connect([&] { ++opened; });

@@ -16,8 +16,12 @@ double pixelsPerTwip() {
     return 1.0 / 15;
 }
 
+QColor toColor(std::int32_t) {
+    return Qt::black;
+}
+
 TEST(DesktopPorts, TheComposedPortsWorkTogether) {
-    DesktopPorts desktop(QIcon(), pixelsPerTwip);
+    DesktopPorts desktop(QIcon(), pixelsPerTwip, toColor);
     const Ports ports = desktop.ports();
     test::runProgram(desktop.pump, [&] {
         const auto child = ports.launcher.start(test::childCommand("bytes 3"));
@@ -37,6 +41,12 @@ TEST(SystemFolders, TheProgramFolderIsThatOfTheRunningProgram) {
     EXPECT_EQ(folders.programFolder(), helper.left(helper.lastIndexOf(QDir::separator())));
 }
 
+TEST(SystemFolders, APathOfTheCodePageIsWrittenAsItIs) {
+    const QString path = QDir::toNativeSeparators(QDir::tempPath() + '/');
+    EXPECT_EQ(QtSystemFolders().pathInCodePage(path), path);
+    EXPECT_EQ(QtSystemFolders().pathInCodePage(QString(QChar(0xD800))), "") << "half a character";
+}
+
 TEST(SystemFolders, TheCommandInterpreterIsAProgram) {
     EXPECT_TRUE(QFileInfo(QtSystemFolders().commandInterpreter()).isExecutable());
 }
@@ -52,7 +62,7 @@ TEST(WindowManager, TheScreenIsMeasuredInTheTwipsOfTheWindows) {
 }
 
 TEST(Processes, AProcessExistsUntilItHasEnded) {
-    DesktopPorts desktop(QIcon(), pixelsPerTwip);
+    DesktopPorts desktop(QIcon(), pixelsPerTwip, toColor);
     const auto child = test::startChild("hang");
     ASSERT_TRUE(child);
     EXPECT_TRUE(desktop.processes->exists(child->processId()));
@@ -63,7 +73,7 @@ TEST(Processes, AProcessExistsUntilItHasEnded) {
 }
 
 TEST(Processes, WhatIsNoSingleProcessIsLeftAlone) {
-    DesktopPorts desktop(QIcon(), pixelsPerTwip);
+    DesktopPorts desktop(QIcon(), pixelsPerTwip, toColor);
     for (const qint64 none :
          {std::numeric_limits<qint64>::min(), qint64{-1}, qint64{0}, qint64{1},
           qint64{std::numeric_limits<qint32>::max()} + 1, std::numeric_limits<qint64>::max()}) {

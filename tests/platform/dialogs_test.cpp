@@ -75,10 +75,16 @@ void whenOpen(std::function<void(Dialog&)> act, QObject* context = qApp) {
     });
 }
 
+constexpr std::int32_t kCoral = -7; ///< known to the windows alone
+
+QColor colorOfTheWindows(std::int32_t color) {
+    return color == kCoral ? QColor(255, 127, 80) : QColor();
+}
+
 class DialogsTest : public testing::Test {
 protected:
     QtEventPump pump_;
-    QtDialogs dialogs_{pump_};
+    QtDialogs dialogs_{pump_, colorOfTheWindows};
 };
 
 TEST_F(DialogsTest, AMessageShowsItsPlainTextUntilTheUserConfirmsIt) {
@@ -91,7 +97,7 @@ TEST_F(DialogsTest, AMessageShowsItsPlainTextUntilTheUserConfirmsIt) {
         EXPECT_EQ(box.icon(), QMessageBox::Warning);
         EXPECT_EQ(box.standardButtons(), QMessageBox::Ok);
         EXPECT_EQ(box.buttons().size(), 1);
-        EXPECT_EQ(box.parentWidget(), nullptr);
+        EXPECT_EQ(box.parentWidget(), nullptr) << "no window is up";
         box.button(QMessageBox::Ok)->click();
     });
     dialogs_.message("<b>Device</b> & more", MessageIcon::Exclamation, "Tarnwell GUI");
@@ -99,20 +105,26 @@ TEST_F(DialogsTest, AMessageShowsItsPlainTextUntilTheUserConfirmsIt) {
 }
 
 TEST_F(DialogsTest, AStopMessageHasTheStopIcon) {
-    whenOpen<QMessageBox>([](QMessageBox& box) {
+    bool seen = false;
+    whenOpen<QMessageBox>([&](QMessageBox& box) {
+        seen = true;
         EXPECT_EQ(box.icon(), QMessageBox::Critical);
         box.reject();
     });
     dialogs_.message("Unexpected error.", MessageIcon::Stop, "Tarnwell GUI");
+    EXPECT_TRUE(seen);
 }
 
 TEST_F(DialogsTest, AMessageThatAsksSomethingOfTheUserHasTheQuestionMark) {
-    whenOpen<QMessageBox>([](QMessageBox& box) {
+    bool seen = false;
+    whenOpen<QMessageBox>([&](QMessageBox& box) {
+        seen = true;
         EXPECT_EQ(box.icon(), QMessageBox::Question);
         EXPECT_EQ(box.standardButtons(), QMessageBox::Ok);
         box.accept();
     });
     dialogs_.message("Leave this open.", MessageIcon::Question, "Tarnwell GUI");
+    EXPECT_TRUE(seen);
 }
 
 TEST_F(DialogsTest, AQuestionIsAnsweredByYesOnly) {
@@ -168,6 +180,81 @@ TEST_F(DialogsTest, AMessageBelongsToTheWindowThatTheUserIsAt) {
         box.accept();
     });
     dialogs_.message("text", MessageIcon::Exclamation, "title");
+}
+
+/// The user is at another program, while this one has some windows up.
+class InactiveProgramTest : public DialogsTest {
+protected:
+    InactiveProgramTest() {
+        onTop_.setWindowFlag(Qt::WindowStaysOnTopHint);
+        for (QWidget* const window : {&first_, &onTop_, &last_})
+            window->show();
+        leave();
+    }
+
+    static void leave() {
+        QCoreApplication::processEvents();
+        QApplication::setActiveWindow(nullptr);
+    }
+
+    const QWidget* ownerOfAMessage() {
+        const QWidget* owner = nullptr;
+        whenOpen<QMessageBox>([&](QMessageBox& box) {
+            owner = box.parentWidget();
+            box.accept();
+        });
+        dialogs_.message("text", MessageIcon::Exclamation, "title");
+        return owner;
+    }
+
+    QWidget first_, onTop_, last_;
+};
+
+TEST_F(InactiveProgramTest, AMessageIsNotCoveredByAWindowThatStaysOnTop) {
+    EXPECT_EQ(ownerOfAMessage(), &onTop_);
+}
+
+TEST_F(InactiveProgramTest, AMessageBelongsToAWindowThatIsToBeSeen) {
+    onTop_.showMinimized();
+    last_.hide();
+    leave();
+    EXPECT_EQ(ownerOfAMessage(), &first_);
+    first_.hide();
+    leave();
+    EXPECT_EQ(ownerOfAMessage(), nullptr);
+}
+
+TEST_F(InactiveProgramTest, AMessageIsNotCoveredByOneThatIsOpen) {
+    const QWidget* owner = nullptr;
+    whenOpen<QMessageBox>([&](QMessageBox& first) {
+        leave();
+        owner = ownerOfAMessage();
+        EXPECT_EQ(owner, &first);
+        first.accept();
+    });
+    dialogs_.message("first", MessageIcon::Exclamation, "title");
+    EXPECT_NE(owner, nullptr);
+}
+
+TEST_F(InactiveProgramTest, EveryBoxBelongsToTheWindowThatStaysOnTop) {
+    using Open = std::function<void(QtDialogs&)>;
+    for (const Open& open :
+         {Open([](QtDialogs& dialogs) { dialogs.question("text", "title", MessageIcon::Exclamation); }),
+          Open([](QtDialogs& dialogs) { dialogs.input("prompt", "title", "text"); }),
+          Open([](QtDialogs& dialogs) { dialogs.openFile({}); }),
+          Open([](QtDialogs& dialogs) { dialogs.saveFile({}); }),
+          Open([](QtDialogs& dialogs) { dialogs.chooseFolder({}); }),
+          Open([](QtDialogs& dialogs) { dialogs.chooseFont({}); }),
+          Open([](QtDialogs& dialogs) { dialogs.chooseColor(0); })}) {
+        const QWidget* owner = nullptr;
+        whenOpen<QDialog>([&](QDialog& dialog) {
+            owner = dialog.parentWidget();
+            dialog.reject();
+        });
+        leave();
+        open(dialogs_);
+        EXPECT_EQ(owner, &onTop_);
+    }
 }
 
 TEST_F(DialogsTest, AMessageOfAnyLengthFitsTheScreen) {
@@ -245,7 +332,7 @@ TEST_F(DialogsTest, TheEndOfTheProgramClosesAnOpenDialogAndItsHandlerGoesNoFurth
           Open([](QtDialogs& dialogs) { dialogs.chooseFont({}); }),
           Open([](QtDialogs& dialogs) { dialogs.chooseColor(0); })}) {
         QtEventPump pump;
-        QtDialogs dialogs(pump);
+        QtDialogs dialogs(pump, colorOfTheWindows);
         bool thrown = false;
         runProgram(pump, [&] {
             QTimer::singleShot(20, qApp, [&] { pump.end(); });
@@ -451,13 +538,16 @@ TEST_F(SaveFileTest, WithoutAFolderTheDialogStartsWhereItLastWas) {
 }
 
 TEST_F(DialogsTest, TheGravestQuestionWearsTheStopSignAndProposesNo) {
-    whenOpen<QMessageBox>([](QMessageBox& box) {
+    bool seen = false;
+    whenOpen<QMessageBox>([&](QMessageBox& box) {
+        seen = true;
         EXPECT_EQ(box.icon(), QMessageBox::Critical);
         EXPECT_EQ(box.windowTitle(), "ARE YOU 100% SURE?");
         EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::No));
         QMetaObject::invokeMethod(box.defaultButton(), "click");
     });
     EXPECT_FALSE(dialogs_.question("text", "ARE YOU 100% SURE?", MessageIcon::Stop));
+    EXPECT_TRUE(seen);
 }
 
 TEST_F(DialogsTest, AFolderIsChosenFromTheOneThatItStartsIn) {
@@ -496,17 +586,13 @@ TEST_F(DialogsTest, AFontIsChosenFromTheOneThatItStartsAt) {
 
 TEST_F(DialogsTest, AColourIsChosenFromTheOneThatItStartsAt) {
     whenOpen<QColorDialog>([](QColorDialog& dialog) {
-        EXPECT_EQ(dialog.currentColor(), QColor(0x11, 0x22, 0x33));
+        EXPECT_EQ(dialog.currentColor(), QColor(255, 127, 80));
         dialog.setCurrentColor(QColor(0x44, 0x55, 0x66));
         dialog.accept();
     });
-    EXPECT_EQ(dialogs_.chooseColor(0x332211), 0x665544);
-    constexpr std::int32_t kButtonText = -2147483630;
-    whenOpen<QColorDialog>([](QColorDialog& dialog) {
-        EXPECT_EQ(dialog.currentColor(), QApplication::palette().color(QPalette::ButtonText));
-        dialog.reject();
-    });
-    EXPECT_EQ(dialogs_.chooseColor(kButtonText), std::nullopt);
+    EXPECT_EQ(dialogs_.chooseColor(kCoral), 0x665544);
+    whenOpen<QColorDialog>([](QColorDialog& dialog) { dialog.reject(); });
+    EXPECT_EQ(dialogs_.chooseColor(kCoral), std::nullopt);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "platform/ports.h"
 
 #include <QDir>
+#include <QHash>
 #include <QTemporaryDir>
 
 #include <deque>
@@ -269,12 +270,14 @@ public:
     QString data =
         folder + QDir::separator() + "data"; ///< the user's folder for settings; at first there and empty
     std::optional<WindowsProfile> profile;
+    QHash<QString, QString> namesInCodePage; ///< of the paths that need another; an empty one is none
 
     FakeSystemFolders() { QDir().mkpath(data); }
 
     QString programFolder() const override { return folder; }
     QString applicationData() const override { return data; }
     std::optional<WindowsProfile> windowsProfile() const override { return profile; }
+    QString pathInCodePage(const QString& path) const override { return namesInCodePage.value(path, path); }
     QString commandInterpreter() const override { return QStringLiteral("C:\\WINDOWS\\system32\\cmd.exe"); }
 };
 

@@ -88,6 +88,19 @@ TEST_F(Window, MinimisingGoesBothWays) {
     EXPECT_EQ(form.windowState, ui::WindowState::Minimised);
 }
 
+TEST_F(Window, ComesBackFromItsTitleBarsMinimising) {
+    window.showMinimized();
+    serveEvents();
+    form.showRestored();
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_FALSE(window.isMinimized());
+    form.windowState = ui::WindowState::Minimised;
+    form.hide();
+    form.showRestored();
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_FALSE(window.isMinimized());
+}
+
 TEST_F(Window, WithoutATrayHidingMinimises) {
     int restored = 0;
     window.hideMinimises = true;

@@ -16,4 +16,8 @@ std::optional<WindowsProfile> native::windowsProfile() {
     return std::nullopt;
 }
 
+QString native::shortPath(const QString&) {
+    return {};
+}
+
 } // namespace tarnwell

@@ -5,10 +5,11 @@
 namespace tarnwell {
 
 DesktopPorts::DesktopPorts(const QIcon& icon, std::function<double()> pixelsPerTwip,
-                           QtSystemFolders systemFolders)
-    : dialogs(pump), tray(icon), folders(std::move(systemFolders)), windows(std::move(pixelsPerTwip)),
-      processes(native::makeProcesses()), sound(native::makeSound()), power(native::makePower()),
-      ping(native::makePing()), wakeLock(native::makeWakeLock()), taskbar(native::makeTaskbarProgress()) {}
+                           std::function<QColor(std::int32_t)> toColor, QtSystemFolders systemFolders)
+    : dialogs(pump, std::move(toColor)), tray(icon), folders(std::move(systemFolders)),
+      windows(std::move(pixelsPerTwip)), processes(native::makeProcesses()), sound(native::makeSound()),
+      power(native::makePower()), ping(native::makePing()), wakeLock(native::makeWakeLock()),
+      taskbar(native::makeTaskbarProgress()) {}
 
 Ports DesktopPorts::ports() {
     return {pump,  clock,    launcher, *processes, dialogs,  tray,    *sound, *power,

@@ -17,9 +17,26 @@ namespace tarnwell {
 
 namespace {
 
+/// On Windows, what a minimised window owns is as little to be seen as the window.
+bool inSight(const QWidget* window) {
+    return window != nullptr && window->isVisible() && !window->isMinimized() &&
+           (window->windowType() == Qt::Window || window->windowType() == Qt::Dialog);
+}
+
+/// While the user is at another program no window is active. But a box that belongs to none would open
+/// underneath the windows that stay on top, and the program would seem to hang.
 QWidget* windowOfTheUser() {
-    QWidget* const window = QApplication::activeWindow();
-    return window != nullptr && window->isVisible() ? window : nullptr;
+    for (QWidget* const window : {QApplication::activeWindow(), QApplication::activeModalWidget()}) {
+        if (inSight(window))
+            return window;
+    }
+    QWidget* result = nullptr;
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+        const bool before = result == nullptr || window->windowFlags().testFlag(Qt::WindowStaysOnTopHint);
+        if (before && inSight(window))
+            result = window;
+    }
+    return result;
 }
 
 QMessageBox::Icon toolkitIcon(MessageIcon icon) {
@@ -43,15 +60,6 @@ QFont toolkitFont(const ui::Font& font) {
     result.setBold(font.bold);
     result.setItalic(font.italic);
     return result;
-}
-
-QColor toolkitColor(std::int32_t color) {
-    constexpr std::uint32_t kSystemColor = 0x80000000, kButtonText = kSystemColor | 18;
-    const auto bits = static_cast<std::uint32_t>(color);
-    if (bits & kSystemColor)
-        return QApplication::palette().color(bits == kButtonText ? QPalette::ButtonText : QPalette::Button);
-    return QColor(static_cast<int>(bits & 0xff), static_cast<int>(bits >> 8 & 0xff),
-                  static_cast<int>(bits >> 16 & 0xff));
 }
 
 /// "iso" and "*.iso" are the same.
@@ -141,7 +149,7 @@ std::optional<ui::Font> QtDialogs::chooseFont(const ui::Font& current) {
 }
 
 std::optional<std::int32_t> QtDialogs::chooseColor(std::int32_t current) {
-    QColorDialog dialog(toolkitColor(current), windowOfTheUser());
+    QColorDialog dialog(toColor_(current), windowOfTheUser());
     if (waitFor(dialog) != QDialog::Accepted)
         return std::nullopt;
     const QColor color = dialog.selectedColor();

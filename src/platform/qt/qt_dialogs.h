@@ -2,16 +2,20 @@
 
 #include "platform/qt/qt_event_pump.h"
 
+#include <QColor>
 #include <QMessageBox>
 
 class QFileDialog;
 
 namespace tarnwell {
 
-/// Boxes of the desktop, in front of the window that the user is at.
+/// Boxes of the desktop, in front of the window that the user is at; of all windows if the user is at another
+/// program.
 class QtDialogs : public Dialogs {
 public:
-    explicit QtDialogs(const QtEventPump& pump) : pump_(pump) {}
+    /// `toColor` tells how the windows show a colour of the model.
+    QtDialogs(const QtEventPump& pump, std::function<QColor(std::int32_t)> toColor)
+        : pump_(pump), toColor_(std::move(toColor)) {}
 
     void message(const QString& text, MessageIcon icon, const QString& title) override;
     bool question(const QString& text, const QString& title, MessageIcon icon) override;
@@ -29,6 +33,7 @@ private:
     std::optional<QString> chooseFile(QFileDialog& dialog, const QString& filter) const;
 
     const QtEventPump& pump_;
+    std::function<QColor(std::int32_t)> toColor_;
 };
 
 } // namespace tarnwell

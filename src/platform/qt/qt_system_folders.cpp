@@ -4,6 +4,14 @@
 
 namespace tarnwell {
 
+namespace {
+
+bool isInCodePage(const QString& text) {
+    return QString::fromLocal8Bit(text.toLocal8Bit()) == text;
+}
+
+} // namespace
+
 QtSystemFolders::QtSystemFolders(const QString& programFolder, const QString& applicationData)
     : programFolder_(QDir::toNativeSeparators(programFolder)),
       applicationData_(QDir::toNativeSeparators(applicationData)) {}
@@ -14,6 +22,11 @@ QString QtSystemFolders::commandInterpreter() const {
 
 std::optional<WindowsProfile> QtSystemFolders::windowsProfile() const {
     return native::windowsProfile();
+}
+
+QString QtSystemFolders::pathInCodePage(const QString& path) const {
+    const QString name = isInCodePage(path) ? path : native::shortPath(path);
+    return isInCodePage(name) ? name : QString();
 }
 
 } // namespace tarnwell

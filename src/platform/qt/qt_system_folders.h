@@ -16,6 +16,7 @@ public:
     QString commandInterpreter() const override;
     QString applicationData() const override { return applicationData_; }
     std::optional<WindowsProfile> windowsProfile() const override;
+    QString pathInCodePage(const QString& path) const override;
 
 private:
     QString programFolder_;

@@ -46,4 +46,10 @@ std::optional<WindowsProfile> native::windowsProfile() {
     return WindowsProfile{userName(), textOf(GetWindowsDirectoryW)};
 }
 
+QString native::shortPath(const QString& path) {
+    return textOf([&](wchar_t* buffer, UINT size) {
+        return GetShortPathNameW(reinterpret_cast<const wchar_t*>(path.utf16()), buffer, size);
+    });
+}
+
 } // namespace tarnwell

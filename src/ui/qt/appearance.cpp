@@ -1,6 +1,7 @@
 #include "ui/qt/appearance.h"
 
 #include "ui/qt/captions.h"
+#include "ui/qt/desktop_theme.h"
 #include "ui/qt/event_watcher.h"
 
 #include <QApplication>
@@ -51,6 +52,10 @@ QPalette paletteOf(const ui::Control& control) {
 }
 
 void bindColors(Binding& binding, ui::Control& control, QWidget& widget) {
+    if (drawnByTheme(widget)) {
+        keepThemeColors(binding, widget);
+        return;
+    }
     const bool opaqueByItself = widget.autoFillBackground();
     const auto show = [&control, &widget, opaqueByItself] {
         widget.setPalette(paletteOf(control));

@@ -1,5 +1,6 @@
 #include "ui/qt/bind_controls.h"
 #include "ui/qt/captions.h"
+#include "ui/qt/desktop_theme.h"
 #include "ui/qt/event_watcher.h"
 #include "ui/qt/list_rows_model.h"
 #include "ui/user_actions.h"
@@ -211,6 +212,8 @@ QWidget* bindListView(Binding& binding, ui::ListView& list, QWidget* parent) {
     view->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     view->header()->setStretchLastSection(false);
     view->header()->setSectionsMovable(false);
+    if (drawnByTheme(*view->header()))
+        keepThemeColors(binding, *view->header());
     view->setSelectionMode(list.multiSelect ? QAbstractItemView::ExtendedSelection
                                             : QAbstractItemView::SingleSelection);
     view->setEditTriggers(list.editableLabels

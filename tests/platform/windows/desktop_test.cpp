@@ -1,6 +1,7 @@
 #include "platform/helpers.h"
 #include "platform/native.h"
 #include "platform/qt/qt_dialogs.h"
+#include "platform/qt/qt_system_folders.h"
 #include "platform/qt/qt_tray.h"
 #include "platform/system_helpers.h"
 #include "platform/windows/windows_power.h"
@@ -8,6 +9,7 @@
 #include "support/gtest_qt.h"
 
 #include <QDialog>
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QWidget>
@@ -26,6 +28,21 @@ TEST(SystemFolders, TheProfileIsKnownByUserAndDrive) {
     ASSERT_TRUE(profile);
     EXPECT_EQ(profile->userName, qEnvironmentVariable("USERNAME"));
     EXPECT_EQ(profile->windowsFolder.toLower(), qEnvironmentVariable("SYSTEMROOT").toLower());
+}
+
+TEST(SystemFolders, AFolderOutsideTheCodePageIsKnownByItsShortNameIfItHasOne) {
+    const QTemporaryDir place;
+    const QString folder =
+        QDir::toNativeSeparators(
+            place.filePath(QString::fromUtf8("\xd0\xae\xd0\xbb\xd0\xb8\xd1\x8f \xe3\x83\x9a\xe3\x83\xab"))) +
+        '\\';
+    ASSERT_TRUE(QDir().mkdir(folder));
+    const QString name = QtSystemFolders().pathInCodePage(folder);
+    EXPECT_EQ(QString::fromLocal8Bit(name.toLocal8Bit()), name);
+    if (name.isEmpty())
+        GTEST_SKIP() << "short names are switched off here";
+    ASSERT_TRUE(QFile(folder + "tarnwell.conf").open(QIODevice::WriteOnly));
+    EXPECT_TRUE(QFile::exists(name + "tarnwell.conf")) << "the separator stays";
 }
 
 TEST(Power, BothCommandsAreThoseOfTheSystem) {
@@ -117,7 +134,7 @@ TEST_F(SystemDialogs, AreClosedByTheEndOfTheProgram) {
                              Open([](QtDialogs& dialogs) { dialogs.saveFile({}); }),
                              Open([](QtDialogs& dialogs) { dialogs.chooseFolder({}); })}) {
         QtEventPump pump;
-        QtDialogs dialogs(pump);
+        QtDialogs dialogs(pump, [](std::int32_t) { return QColor(); });
         bool ended = false;
         test::runProgram(pump, [&] {
             QTimer::singleShot(1000, qApp, [&] { pump.end(); });
