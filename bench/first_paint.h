@@ -11,6 +11,8 @@
 
 namespace tarnwell::bench {
 
+constexpr double kNanosecondsPerMicrosecond = 1e3, kNanosecondsPerMillisecond = 1e6;
+
 /// Nanoseconds of a clock that all processes share.
 inline double now() {
     return static_cast<double>(std::chrono::steady_clock::now().time_since_epoch().count());

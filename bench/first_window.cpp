@@ -13,7 +13,7 @@ struct Starts {
 
     template <class Start>
     void add(Start start) {
-        constexpr double kNanosecondsPerMillisecond = 1e6, kKilobytesPerMegabyte = 1024;
+        constexpr double kKilobytesPerMegabyte = 1024;
         const double begin = now();
         const std::vector<double> figures = start();
         if (figures.size() != 2)

@@ -31,7 +31,7 @@ std::vector<Program> peers() {
 
 void startOnce(Program& program, const FreshProcesses& processes, Screen& screen) {
     constexpr int kPatienceMs = 20'000, kUntilSettledMs = 500;
-    constexpr double kNanosecondsPerMillisecond = 1e6, kKilobytesPerMegabyte = 1024;
+    constexpr double kKilobytesPerMegabyte = 1024;
     QProcess process;
     process.setProcessEnvironment(processes.environmentOn(screen.name()));
     process.setStandardOutputFile(QProcess::nullDevice());

@@ -38,7 +38,6 @@ void progressLoad(int seconds) {
         const double processorBegin = processorMicroseconds(), begin = now();
         const QString output =
             tool.channel.Tarn_Command(QString("progress %1 %2").arg(kLinesPerSecond).arg(seconds));
-        constexpr double kNanosecondsPerMicrosecond = 1000;
         const double elapsed = (now() - begin) / kNanosecondsPerMicrosecond;
         tool.endJob();
         if (output.count('%') == qsizetype{kLinesPerSecond} * seconds)

@@ -12,7 +12,6 @@ namespace {
 
 constexpr double kTwoPassesMs = 60;
 constexpr double kNothingMs = 0.01; ///< what is left if a busy machine has slowed the shell down
-constexpr double kNanosecondsPerMillisecond = 1e6;
 
 QString command(int job) {
     // So that the exits fall on every moment of a pass.

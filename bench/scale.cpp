@@ -13,7 +13,6 @@ namespace tarnwell::bench {
 
 namespace {
 
-constexpr double kNanosecondsPerMicrosecond = 1000;
 constexpr double kStaysTheSame = 1.25, kPaintsMore = 3;
 
 /// Each size is judged beside the one before.

@@ -13,7 +13,6 @@ namespace {
 
 constexpr int kVisitsPerSecond = 10;
 constexpr double kNanosecondsPerSecond = 1e9;
-constexpr double kNanosecondsPerMillisecond = 1e6;
 
 bool fetchPage() {
     constexpr int kPatienceMs = 1000;

@@ -26,6 +26,8 @@ struct ProgramEnded {};
 class EventPump {
 public:
     virtual ~EventPump() = default;
+    /// How often those who wait for something that raises no event look for it.
+    static constexpr int kLookAgainMilliseconds = 30;
     /// Serves what is pending and returns.
     virtual void pump() = 0;
     /// Serves events as they come, asleep in between, until `milliseconds` have gone by.

@@ -6,14 +6,12 @@
 
 namespace tarnwell {
 
-namespace {
-constexpr int kLookAgainMilliseconds = 30;
-}
+namespace {}
 
 void WaitSeconds(double delay, const Ports& ports) {
     const double start = ports.clock.secondsSinceMidnight();
     do {
-        ports.pump.waitForEvent(kLookAgainMilliseconds);
+        ports.pump.waitForEvent(EventPump::kLookAgainMilliseconds);
     } while (std::abs(ports.clock.secondsSinceMidnight() - start) < delay);
 }
 

@@ -13,7 +13,7 @@ const QString kDiscDatabase = QStringLiteral("tarnwell.list");
 const QString kFirstAddress = QStringLiteral("192.168.0.10");
 const QString kFirstSpeed = QStringLiteral("2300");
 
-QString withoutQuotes(QString text) {
+QString withoutAnyQuotes(QString text) {
     return text.remove(u'"');
 }
 
@@ -55,8 +55,8 @@ void readLine(const QString& line, const QString& folder, ui::FrmSettings& frmSe
     const qsizetype separator = line.indexOf(kSeparator);
     if (separator < 0)
         return;
-    readSetting(Trim(withoutQuotes(line.left(separator))),
-                withoutQuotes(line.mid(separator + kSeparator.size())), folder, frmSettings);
+    readSetting(Trim(withoutAnyQuotes(line.left(separator))),
+                withoutAnyQuotes(line.mid(separator + kSeparator.size())), folder, frmSettings);
 }
 
 QString QuoteConf(const QString& text) {

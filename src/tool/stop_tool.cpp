@@ -2,17 +2,13 @@
 
 namespace tarnwell {
 
-namespace {
-constexpr int kLookAgainMilliseconds = 30;
-}
-
 void ShowStopPrompt(cStdIO& StdIO) {
     StdIO.interrupt();
 }
 
 void WaitForStoppedTool(cStdIO& StdIO, EventPump& pump) {
     while (StdIO.stoppedToolLives())
-        pump.waitForEvent(kLookAgainMilliseconds);
+        pump.waitForEvent(EventPump::kLookAgainMilliseconds);
 }
 
 } // namespace tarnwell

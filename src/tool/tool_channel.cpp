@@ -10,7 +10,6 @@ namespace {
 
 constexpr int kAttempts = 4;
 constexpr double kPauseSeconds = 2.0;
-constexpr int kLookAgainMilliseconds = 30;
 
 } // namespace
 
@@ -58,7 +57,7 @@ bool ToolChannel::answeredWithinPause() {
     do {
         if (blnGotData_)
             return true;
-        shared_.ports.pump.waitForEvent(kLookAgainMilliseconds);
+        shared_.ports.pump.waitForEvent(EventPump::kLookAgainMilliseconds);
     } while (shared_.ports.clock.secondsSinceMidnight() - start < kPauseSeconds);
     return false;
 }

@@ -94,8 +94,8 @@ TEST_F(ToolChannelTest, AcrossMidnightTheWaitLastsUntilTheClockHasCaughtUp) {
         return ports.launcher.children.empty() ? ChildScript{} : ChildScript{.output = {{"answer"}}};
     };
     // Somebody else's work keeps the program busy over midnight, and then for most of the day.
-    ports.pump.after(1000, [this] { ports.clock.now += 20 * 1000; });
-    ports.pump.after(30 * 1000, [this] { ports.clock.now += kDay - 40 * 1000; });
+    ports.pump.after(1000, [this] { ports.clock.now += 20'000; });
+    ports.pump.after(30'000, [this] { ports.clock.now += kDay - 40'000; });
     const qint64 start = ports.clock.now;
     EXPECT_EQ(channel.Tarn_Command("query"), "answer");
     EXPECT_GE(ports.clock.now - start, kDay + 2000);

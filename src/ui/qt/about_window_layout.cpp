@@ -12,8 +12,8 @@ namespace tarnwell::view {
 namespace {
 
 // The inside of the window, in twips.
-constexpr int kWidth = 4500;
-constexpr int kHeight = 2970;
+constexpr int kAboutWidth = 4500;
+constexpr int kAboutHeight = 2970;
 
 constexpr int kPictureSize = 720;  ///< twips
 constexpr double kTitleSize = 1.8; ///< of the program's name, against the font around it
@@ -86,7 +86,8 @@ QLayout* AboutWindowLayout::links() {
 }
 
 double AboutWindowLayout::neededPixelsPerTwip() const {
-    return std::max(pixelsPerTwip(window_, kWidth, kHeight), pixelsPerTwip((*this)(form_.Label2)->font()));
+    return std::max(pixelsPerTwip(window_, kAboutWidth, kAboutHeight),
+                    pixelsPerTwip((*this)(form_.Label2)->font()));
 }
 
 void AboutWindowLayout::scaleTo(const TwipScale& scale) {

@@ -9,8 +9,8 @@ namespace tarnwell::view {
 namespace {
 
 // The inside of the window, in twips.
-constexpr int kWidth = 5310;
-constexpr int kHeight = 4035;
+constexpr int kSettingsWidth = 5310;
+constexpr int kSettingsHeight = 4035;
 
 } // namespace
 
@@ -123,7 +123,7 @@ void SettingsWindowLayout::layOutWindow() {
 }
 
 double SettingsWindowLayout::neededPixelsPerTwip() const {
-    return std::max(pixelsPerTwip(window_, kWidth, kHeight),
+    return std::max(pixelsPerTwip(window_, kSettingsWidth, kSettingsHeight),
                     pixelsPerTwip((*this)(form_.txtApplicationData)->font()));
 }
 

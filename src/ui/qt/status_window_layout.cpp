@@ -9,8 +9,8 @@ namespace tarnwell::view {
 namespace {
 
 // The inside of the window, in twips.
-constexpr int kWidth = 4845;
-constexpr int kHeight = 3555;
+constexpr int kStatusWidth = 4845;
+constexpr int kStatusHeight = 3555;
 
 } // namespace
 
@@ -70,7 +70,8 @@ void StatusWindowLayout::layOutWindow() {
 }
 
 double StatusWindowLayout::neededPixelsPerTwip() const {
-    return std::max(pixelsPerTwip(window_, kWidth, kHeight), pixelsPerTwip((*this)(form_.lblJob)->font()));
+    return std::max(pixelsPerTwip(window_, kStatusWidth, kStatusHeight),
+                    pixelsPerTwip((*this)(form_.lblJob)->font()));
 }
 
 } // namespace tarnwell::view
