@@ -6,8 +6,6 @@
 
 namespace tarnwell {
 
-namespace {}
-
 void WaitSeconds(double delay, const Ports& ports) {
     const double start = ports.clock.secondsSinceMidnight();
     do {
