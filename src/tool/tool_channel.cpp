@@ -10,6 +10,8 @@ namespace {
 
 constexpr int kAttempts = 4;
 constexpr double kPauseSeconds = 2.0;
+const char kStoppedToolLives[] =
+    "tarnwell.exe was told to stop and has not ended yet. This command waits for it.";
 
 } // namespace
 
@@ -42,9 +44,11 @@ void ToolChannel::Tarn_Execute(const QString& strRawCommand) {
 }
 
 QString ToolChannel::run(const QString& command) {
-    // A tool that was told to stop may still be writing to the disk that this command is about.
-    WaitForStoppedTool(StdIO_, shared_.ports.pump);
     shared_.frmMain.txtCommand.text = command;
+    // It may still be writing to the disk that this command is about.
+    if (StdIO_.stoppedToolLives())
+        shared_.frmMain.txtOutput.text = kStoppedToolLives;
+    WaitForStoppedTool(StdIO_, shared_.ports.pump);
     shared_.frmMain.txtOutput.text = QString();
     QString output = StdIO_.ExecuteCommand(shared_.config.ToolPath() + ' ' + command);
     reportUnreadableLine();

@@ -476,7 +476,10 @@ TEST_F(QueueRunner, ACancelledDeleteThatTakesItsTimeIsOverBeforeTheListIsRead) {
     addJob("delete 192.168.0.10 A", "Delete", kConsole, "");
     answerWith("delete", {.output = {}, .endsAtMs = kForEver, .farewellTakesMs = 7000});
     cancelAfter(500);
+    QString activity;
+    ports.pump.after(5000, [&] { activity = frmMain.txtOutput.text; });
     runQueue();
+    EXPECT_TRUE(activity.startsWith("tarnwell.exe was told to stop and has not ended yet."));
     EXPECT_EQ(results(), QStringList(kAborted));
     const auto& children = ports.launcher.children;
     const auto& deletion = *std::ranges::find_if(
