@@ -62,9 +62,11 @@ QString runToEnd(const QString& program, const QStringList& arguments, const QSt
     process.setWorkingDirectory(folder);
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(program, arguments);
-    if (!process.waitForFinished(kPatienceMs) || process.exitStatus() != QProcess::NormalExit ||
-        process.exitCode() != 0)
-        fail(program + ' ' + arguments.join(' ') + " failed: " + process.readAll());
+    const bool ended = process.waitForFinished(kPatienceMs);
+    if (!ended || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
+        fail(QString("%1 %2 failed: %3 (%4, exit code %5)")
+                 .arg(program, arguments.join(' '), QString::fromLocal8Bit(process.readAll()),
+                      ended ? "ended" : process.errorString(), QString::number(process.exitCode())));
     return QString::fromLocal8Bit(process.readAll());
 }
 
