@@ -22,3 +22,11 @@ if(TARNWELL_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
 endif()
+
+# clang-tidy does not know by itself for which system the cross compiler builds, and where its C++ headers lie.
+if(CMAKE_CXX_CLANG_TIDY AND MINGW)
+  set(headers ${CMAKE_CXX_IMPLICIT_INCLUDE_DIRECTORIES})
+  list(FILTER headers INCLUDE REGEX "c\\+\\+")
+  list(TRANSFORM headers PREPEND --extra-arg=-isystem)
+  list(APPEND CMAKE_CXX_CLANG_TIDY --extra-arg-before=--target=x86_64-w64-mingw32 ${headers})
+endif()

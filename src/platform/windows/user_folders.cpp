@@ -37,7 +37,7 @@ QString native::commandInterpreter() {
 QString native::applicationData() {
     PWSTR path = nullptr;
     const HRESULT result = SHGetKnownFolderPath(FOLDERID_RoamingAppData, KF_FLAG_CREATE, nullptr, &path);
-    const QString folder = SUCCEEDED(result) ? QString::fromWCharArray(path) : QString();
+    QString folder = SUCCEEDED(result) ? QString::fromWCharArray(path) : QString();
     CoTaskMemFree(path);
     return folder;
 }

@@ -6,7 +6,7 @@ namespace tarnwell {
 namespace {
 
 /// A power request, which the system lists with its reason.
-class WindowsWakeLock : public WakeLock {
+class WindowsWakeLock final : public WakeLock {
 public:
     ~WindowsWakeLock() override { release(); }
 
