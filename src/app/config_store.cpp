@@ -4,6 +4,7 @@
 #include "app/replace_file.h"
 #include "interpreter/text_primitives.h"
 #include "platform/ports.h"
+#include "ui/frm_main.h"
 
 #include <QDir>
 #include <QFile>
@@ -30,7 +31,7 @@ constexpr Default kDefaults[] = {
     {"TurnOffPC", "0"},
     {"StandbyPC", "0"},
     {"TurnOffPS2", "0"},
-    {"IP", "192.168.0.10"},
+    {"IP", ui::FrmMain::kFirstAddress},
     {"StayOnTop", "1"},
     {"ViewOutput", "0"},
     {"BalloonTips", "0"},

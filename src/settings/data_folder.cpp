@@ -1,6 +1,7 @@
 #include "settings/data_folder.h"
 
 #include "interpreter/text_primitives.h"
+#include "settings/tool_config_text.h"
 
 #include <QDir>
 
@@ -64,7 +65,7 @@ void DataFolder::reset() {
         return;
     }
     auto& frmSettings = shared_.frmSettings;
-    frmSettings->txtDiscDatabase.text = frmSettings->txtApplicationData.text + "tarnwell.list";
+    frmSettings->txtDiscDatabase.text = frmSettings->txtApplicationData.text + kDiscDatabase;
 }
 
 bool DataFolder::takeIfThere(const QString& folder) {

@@ -1,14 +1,9 @@
 #include "settings/settings_window.h"
 
 #include "app/fault.h"
+#include "settings/tool_config_text.h"
 
 namespace tarnwell {
-
-namespace {
-
-const QString kDatabaseFile = QStringLiteral("tarnwell.list");
-
-} // namespace
 
 SettingsWindow::SettingsWindow(Shared& shared, GuiSettings& guiSettings, DataFolder& dataFolder,
                                ToolConfig& toolConfig)
@@ -93,7 +88,7 @@ void SettingsWindow::useDefaults() {
     frmSettings->chkEnableASPI.value = 0;
     frmSettings->chkLimit28bit.value = 1;
     frmSettings->chkUseCompression.value = 0;
-    frmSettings->txtTargetkbps.text = QString("2300");
+    frmSettings->txtTargetkbps.text = kFirstSpeed;
     shared_.frmMain.txtIP.text = ConfigStore::defaultText("IP");
     shared_.config.WriteDefaultConfig();
     guiSettings_.LoadGUISettings();
@@ -102,10 +97,10 @@ void SettingsWindow::useDefaults() {
 }
 
 void SettingsWindow::chooseDiscDatabase() {
-    const auto file = shared_.ports.dialogs.openFile({.filter = "Tarnwell Disk Database|" + kDatabaseFile,
+    const auto file = shared_.ports.dialogs.openFile({.filter = "Tarnwell Disk Database|" + kDiscDatabase,
                                                       .folder = shared_.config.text("ApplicationData"),
                                                       .mustExist = true});
-    if (file && file->toLower().endsWith(kDatabaseFile))
+    if (file && file->toLower().endsWith(kDiscDatabase))
         shared_.frmSettings->txtDiscDatabase.text = *file;
 }
 

@@ -9,9 +9,6 @@ namespace tarnwell {
 namespace {
 
 const QString kSeparator = QStringLiteral(" = ");
-const QString kDiscDatabase = QStringLiteral("tarnwell.list");
-const QString kFirstAddress = QStringLiteral("192.168.0.10");
-const QString kFirstSpeed = QStringLiteral("2300");
 
 QString withoutAnyQuotes(QString text) {
     return text.remove(u'"');
@@ -88,7 +85,7 @@ QString WriteToolConfig(const QString& folder, ui::FrmSettings& frmSettings, ui:
         frmSettings.txtDiscDatabase.text = folder + kDiscDatabase;
     append("auto_throttle", QString::number(frmSettings.chkAutoThrottle.value));
     append("enable_aspi", yesOrNo(frmSettings.chkEnableASPI));
-    append("last_ip", orElse(frmMain.txtIP, kFirstAddress));
+    append("last_ip", orElse(frmMain.txtIP, ui::FrmMain::kFirstAddress));
     append("limit_to_28bit", yesOrNo(frmSettings.chkLimit28bit));
     append("partition_naming", frmSettings.chkToxicOS.value == 1 ? "toxicos" : "standard");
     append("target_kbps", orElse(frmSettings.txtTargetkbps, kFirstSpeed));

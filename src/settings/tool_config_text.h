@@ -8,6 +8,11 @@
 /// better.
 namespace tarnwell {
 
+/// The name that the tool gives its disc database.
+inline const QString kDiscDatabase = QStringLiteral("tarnwell.list");
+/// The throttling target until the user sets one, in kbps.
+inline const QString kFirstSpeed = QStringLiteral("2300");
+
 /// Sets the control of each key that the text holds, in its order; the last of equal keys wins. A key that is
 /// not there leaves its control alone, and so does a line without a line feed. `folder` is where the tool's
 /// disc database lies if the file names none.

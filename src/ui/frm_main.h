@@ -18,6 +18,8 @@ public:
     static constexpr int kTallHeight = 6365;
     static constexpr int kHddEntries = 5;
     static constexpr int kFlags = 8;
+    /// The console's address until the user enters another.
+    static constexpr char kFirstAddress[] = "192.168.0.10";
 
     Frame fmMain{*this,
                  "fmMain",
@@ -29,7 +31,7 @@ public:
     TextBox txtIP{
         *this,
         "txtIP",
-        {.in = &fmDevice, .text = "192.168.0.10", .accessibleName = "IP address of the PS2 console"}};
+        {.in = &fmDevice, .text = kFirstAddress, .accessibleName = "IP address of the PS2 console"}};
     ComboBox cmbHD{*this, "cmbHD", {.in = &fmDevice, .accessibleName = "Local PS2 disk", .visible = false}};
     Button cmdAttach{*this,
                      "cmdAttach",
