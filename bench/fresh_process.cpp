@@ -1,6 +1,6 @@
 #include "fresh_process.h"
 
-#include "app/desktop_program.h"
+#include "app/desktop/desktop_program.h"
 
 #include <QCoreApplication>
 #include <QFile>

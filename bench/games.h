@@ -12,8 +12,8 @@ inline QString gameTable(int games) {
     QString text = "type   size flags          dma startup      name\r\n";
     for (int i = 0; i < games; ++i) {
         const bool cd = i % 3 == 0;
-        text += QString::asprintf("%-4s%7dKB %-15sSLUS_%03d.%02d   The Long Title of Game %d\r\n",
-                                  cd ? "CD" : "DVD", cd ? 716800 : 4193280, cd ? "+1+3" : "", i / 100 % 1000,
+        text += QString::asprintf("%-4s%7dKB %-15sSLUS_9%02d.%02d   The Long Title of Game %d\r\n",
+                                  cd ? "CD" : "DVD", cd ? 716800 : 4193280, cd ? "+1+3" : "", i / 100 % 100,
                                   i % 100, i);
     }
     return text + "total 114473MB, used 26712MB, available 87761MB\r\n";

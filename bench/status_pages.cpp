@@ -1,4 +1,4 @@
-#include "app/desktop_program.h"
+#include "app/desktop/desktop_program.h"
 #include "first_paint.h"
 #include "measurements.h"
 

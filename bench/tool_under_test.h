@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/desktop_program.h"
+#include "app/desktop/desktop_program.h"
 
 namespace tarnwell::bench {
 

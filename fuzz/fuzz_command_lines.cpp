@@ -1,6 +1,7 @@
 // Commands as users may edit them: everything that splits one into words.
 
-#include "platform/posix/command_line.h"
+#include "platform/posix/arguments.h"
+#include "platform/qt/command_line.h"
 #include "queue/job_caption.h"
 
 #include <cstddef>
@@ -11,5 +12,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         QString::fromLocal8Bit(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
     tarnwell::JobCaption(command);
     tarnwell::splitArguments(command);
+    tarnwell::splitCommandLine(command);
     return 0;
 }

@@ -1,6 +1,6 @@
 // config.cfg as anything may have left it: what is written is read back, and what is not touched survives.
 
-#include "app/ini_text.h"
+#include "base/ini_text.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,7 +1,7 @@
 // What the tool prints, cut into chunks at odd places, while the program waits for anything or nothing.
 
-#include "app/fault.h"
-#include "app/shared.h"
+#include "base/fault.h"
+#include "base/shared.h"
 #include "interpreter/output_interpreter.h"
 #include "support/fake_ports.h"
 

@@ -42,6 +42,11 @@ Dialog* openDialog() {
     return qobject_cast<Dialog*>(QApplication::activeModalWidget());
 }
 
+/// Of the open dialog for files.
+QLineEdit& fileNameEdit() {
+    return *openDialog<QFileDialog>()->findChild<QLineEdit*>("fileNameEdit");
+}
+
 /// Option buttons and check boxes take clicks on their left part only.
 QPoint whereToClick(const QWidget& widget) {
     const bool button = qobject_cast<const QPushButton*>(&widget) != nullptr;
@@ -51,21 +56,27 @@ QPoint whereToClick(const QWidget& widget) {
                   : centre;
 }
 
-void sendMouse(QWidget& widget, QEvent::Type type, const QPoint& place) {
+/// A button of the mouse, and the keys that are held with it.
+struct Press {
+    Qt::MouseButton button = Qt::LeftButton;
+    Qt::KeyboardModifiers modifiers{};
+};
+
+void sendMouse(QWidget& widget, QEvent::Type type, const QPoint& place, const Press& press) {
     const bool moves = type == QEvent::MouseMove;
     const bool down = type == QEvent::MouseButtonPress;
-    QMouseEvent event(type, place, widget.mapToGlobal(place), moves ? Qt::NoButton : Qt::LeftButton,
-                      down ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+    QMouseEvent event(type, place, widget.mapToGlobal(place), moves ? Qt::NoButton : press.button,
+                      down ? press.button : Qt::NoButton, press.modifiers);
     QApplication::sendEvent(&widget, &event);
 }
 
-void sendClick(QWidget& widget, const QPoint& place) {
+void sendClick(QWidget& widget, const QPoint& place, const Press& press = {}) {
     const QPointer<QWidget> alive = &widget;
     if (widget.focusPolicy() & Qt::ClickFocus)
         widget.setFocus(Qt::MouseFocusReason);
     for (const auto type : {QEvent::MouseMove, QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
         if (alive)
-            sendMouse(widget, type, place);
+            sendMouse(widget, type, place, press);
     }
 }
 
@@ -201,10 +212,16 @@ void User::waitForFileDialog() {
 
 void User::pickFile(const QString& path) {
     waitForFileDialog();
-    auto* const edit = look([] { return openDialog<QFileDialog>()->findChild<QLineEdit*>("fileNameEdit"); });
-    look([&] { typeInto(*edit, path); });
-    act([edit] { sendKey(*edit, Qt::Key_Return, {}, "\r"); });
+    look([&] { typeInto(fileNameEdit(), path); });
+    acceptFile();
+}
+
+QString User::acceptFile() {
+    waitForFileDialog();
+    QString name = look([] { return fileNameEdit().text(); });
+    act([] { sendKey(fileNameEdit(), Qt::Key_Return, {}, "\r"); });
     waitFor("the dialog for files to close", [] { return openDialog<QFileDialog>() == nullptr; });
+    return name;
 }
 
 void User::selectTab(const QString& strip, int tab) {
@@ -267,6 +284,14 @@ void User::answer(const QString& line) {
 }
 
 void User::selectRow(const QString& list, const QString& text) {
+    clickRow(list, text, {});
+}
+
+void User::alsoSelectRow(const QString& list, const QString& text) {
+    clickRow(list, text, Qt::ControlModifier);
+}
+
+void User::clickRow(const QString& list, const QString& text, Qt::KeyboardModifiers modifiers) {
     look([&] {
         auto& view = static_cast<QTreeView&>(reachable(list));
         const QModelIndex row = rowWith(*view.model(), text);
@@ -274,7 +299,17 @@ void User::selectRow(const QString& list, const QString& text) {
             throw Stuck("There is no " + text + " in " + list + '.');
         view.scrollTo(row);
         view.setFocus(Qt::MouseFocusReason);
-        sendClick(*view.viewport(), view.visualRect(row).center());
+        sendClick(*view.viewport(), view.visualRect(row).center(), {Qt::LeftButton, modifiers});
+    });
+}
+
+void User::rightClickBelowRows(const QString& list) {
+    auto* const view = look([&] { return &static_cast<QTreeView&>(reachable(list)); });
+    act([view] {
+        const QRect area = view->viewport()->rect();
+        sendClick(*view->viewport(), {area.center().x(), area.bottom() - 1}, {Qt::RightButton});
+        // The press reaches the program by an event of its own.
+        QCoreApplication::processEvents();
     });
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/desktop_program.h"
+#include "app/desktop/desktop_program.h"
 
 #include <QCoreApplication>
 #include <QString>
@@ -40,6 +40,8 @@ public:
     void waitForFileDialog();
     /// Types a path into the open dialog for files and presses Enter.
     void pickFile(const QString& path);
+    /// Presses Enter on the file that the open dialog proposes, and returns its name.
+    QString acceptFile();
     /// Picks in the open dialog and presses OK.
     void pickColor(const QColor& color);
     void pickFont(const QFont& font);
@@ -51,6 +53,10 @@ public:
     void answer(const QString& line);
     /// Clicks the first row that has `text` in one of its columns.
     void selectRow(const QString& list, const QString& text);
+    /// The same with the key held that leaves the other rows selected.
+    void alsoSelectRow(const QString& list, const QString& text);
+    /// Presses the right button below the rows of a list.
+    void rightClickBelowRows(const QString& list);
     /// Edits the label of the selected row.
     void editLabel(const QString& list, const QString& text);
     /// Presses the close box of a window.
@@ -103,6 +109,7 @@ private:
     QString closeMessage(int button);
     static void post(std::function<void()> function);
     void act(std::function<void()> gesture);
+    void clickRow(const QString& list, const QString& text, Qt::KeyboardModifiers modifiers);
 
     DesktopProgram& program_;
     int handlersRunning_ = 0;

@@ -1,7 +1,9 @@
 #include "app/exit.h"
 
+#include "base/mod_tray_icon.h"
 #include "services/mod_ping.h"
-#include "services/mod_tray_icon.h"
+
+#include <QScopedValueRollback>
 
 namespace tarnwell {
 
@@ -9,10 +11,12 @@ Exit::Exit(Shared& shared, cStdIO& StdIO) : shared_(shared), StdIO_(StdIO) {
     shared_.frmMain.cmdExit.Click = [this] { exitProgram(); };
     shared_.frmMain.mnuExit.Click = [this] { exitProgram(); };
     shared_.frmMain.Unload = [this](bool&) { exitProgram(); };
+    shared_.frmMain.CloseAgain = [this] { exitProgram(); };
 }
 
 void Exit::exitProgram() {
-    turnConsoleOff();
+    if (!consoleGoesOff_)
+        turnConsoleOff();
     TrayRemove(shared_.ports.tray);
     shared_.frmAbout.untouched().unload();
     shared_.frmSettings.untouched().unload();
@@ -26,8 +30,10 @@ void Exit::turnConsoleOff() {
     const QString address = shared_.frmMain.txtIP.text;
     if (!shared_.frmMain.optLAN.value || shared_.config.number("ClosePS2") != 1)
         return;
-    if (PingConsole(address, shared_.ports.ping) != kNoAnswer)
-        StdIO_.ExecuteCommand(shared_.config.ToolPath() + " poweroff " + address);
+    if (PingConsole(address, shared_.ports.ping) == kNoAnswer)
+        return;
+    const QScopedValueRollback waiting(consoleGoesOff_, true);
+    StdIO_.ExecuteCommand(shared_.config.ToolPath() + " poweroff " + address);
 }
 
 void Exit::end() {

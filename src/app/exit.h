@@ -1,12 +1,12 @@
 #pragma once
 
-#include "app/shared.h"
+#include "base/shared.h"
 #include "tool/std_io.h"
 
 namespace tarnwell {
 
 /// The one way out, for the button, the tray menu and the close box. A running tool is neither waited for nor
-/// ended.
+/// ended; only a console that is to go off is waited for, until the user asks once more.
 class Exit {
 public:
     Exit(Shared& shared, cStdIO& StdIO);
@@ -18,6 +18,7 @@ private:
 
     Shared& shared_;
     cStdIO& StdIO_;
+    bool consoleGoesOff_ = false;
 };
 
 } // namespace tarnwell

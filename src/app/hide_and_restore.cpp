@@ -39,7 +39,8 @@ void HideAndRestore::restore() {
     if (shared_.jobRunning())
         shared_.frmStatus->showRestored();
     shared_.frmMain.showRestored();
-    if (!shared_.jobRunning() && statusWasUsed)
+    // During work a second time: its Cancel must not lie behind the main window.
+    if (shared_.jobRunning() || statusWasUsed)
         shared_.frmStatus->showRestored();
     shared_.frmMain.mnuMinimize.caption = kMinimize;
 }

@@ -1,7 +1,8 @@
 #include "app/program.h"
 
-#include "queue/percent_bar.h"
-#include "services/mod_tray_icon.h"
+#include "base/mod_tray_icon.h"
+#include "base/set_check_box.h"
+#include "status/percent_bar.h"
 
 namespace tarnwell {
 
@@ -49,7 +50,17 @@ void Program::start() {
         shared_.frmMain.txtOutput.caretVisible = false;
         layOutMain();
         shared_.frmMain.show();
+        if (!shared_.config.canBeWritten())
+            shared_.message(
+                shared_.config.path() +
+                " cannot be written: what you change on the GUI page of Settings & Tools, the console's "
+                "address and the place of the tool's data will not be kept.");
     });
+    // What went wrong has been told by now. Nobody could see or end a program without a window.
+    if (!shared_.frmMain.shown() && !shared_.ports.pump.ended()) {
+        TrayRemove(shared_.ports.tray);
+        shared_.ports.pump.end();
+    }
 }
 
 void Program::loadMain() {
@@ -59,15 +70,11 @@ void Program::loadMain() {
 
 void Program::layOutMain() {
     ui::FrmMain& frmMain = shared_.frmMain;
-    frmMain.height = ui::FrmMain::kShortHeight;
-    frmMain.fmInstall.top = 0;
     frmMain.fmJob.left = 120;
-    frmMain.fmJob.top = 0;
     const auto screen = shared_.ports.windows.screenSize();
     frmMain.left = screen.width / 2 - frmMain.width / 2;
     frmMain.top = screen.height / 2 - frmMain.height / 2;
-    frmMain.chkOutput.value = shared_.config.number("ViewOutput") == 1 ? 1 : 0;
-    frmMain.cmbType.listIndex = 1;
+    SetCheckBox(frmMain.chkOutput, shared_.config.text("ViewOutput"));
     const QString address = shared_.config.text("IP");
     frmMain.txtIP.text = address.isEmpty() ? ConfigStore::defaultText("IP") : address;
     PercentBar(frmMain.picDiskSpace, 100, 0, shared_.ports.pump);

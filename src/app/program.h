@@ -1,18 +1,12 @@
 #pragma once
 
-#include "app/enable_gui.h"
-#include "app/event_dispatcher.h"
 #include "app/exit.h"
 #include "app/hide_and_restore.h"
 #include "app/navigation.h"
-#include "app/shared.h"
+#include "base/event_dispatcher.h"
+#include "base/shared.h"
 #include "interpreter/output_interpreter.h"
-#include "queue/add_game.h"
-#include "queue/completion_actions.h"
 #include "queue/job_list.h"
-#include "queue/queue_runner.h"
-#include "queue/sounds.h"
-#include "queue/status_window.h"
 #include "services/about_window.h"
 #include "services/status_server.h"
 #include "settings/appearance.h"
@@ -20,6 +14,11 @@
 #include "settings/settings_window.h"
 #include "tool/std_io.h"
 #include "tool/tool_channel.h"
+#include "work/completion_actions.h"
+#include "work/enable_gui.h"
+#include "work/sounds.h"
+#include "work/status_window.h"
+#include "workflows/add_game.h"
 #include "workflows/copy_games.h"
 #include "workflows/delete_games.h"
 #include "workflows/device_selection.h"
@@ -27,6 +26,7 @@
 #include "workflows/install_now.h"
 #include "workflows/install_source.h"
 #include "workflows/make_iso.h"
+#include "workflows/queue_runner.h"
 #include "workflows/rename_game.h"
 
 namespace tarnwell {
@@ -36,12 +36,13 @@ class Program {
 public:
     explicit Program(const Ports& ports);
 
-    /// From the program's start to the shown main window.
+    /// From the program's start to the shown main window. An error on the way is told and ends the program.
     void start();
 
     Shared& shared() { return shared_; }
     EventDispatcher& dispatcher() { return dispatcher_; }
     HideAndRestore& hideAndRestore() { return hideAndRestore_; }
+    const cStdIO& StdIO() const { return StdIO_; }
 
 private:
     void loadMain();

@@ -1,7 +1,7 @@
 #include "interpreter/device_stage.h"
 
-#include "app/shared.h"
-#include "interpreter/text_primitives.h"
+#include "base/shared.h"
+#include "base/text_primitives.h"
 #include "interpreter/units.h"
 
 namespace tarnwell {
@@ -30,6 +30,13 @@ QString driveEntry(const QString& line) {
     return Mid(line, 2, kOpticalNameLength) + "  [" + FormatNumber(sizeInGigabytes(line), "#.00") + "GB]";
 }
 
+void hideBlankTargets(ui::FrmMain& form) {
+    for (ui::MenuEntry& target : form.mnuHDD) {
+        if (target.caption.get().isEmpty())
+            target.visible = false;
+    }
+}
+
 /// Fills the disk list, and the copy menu with as many disks as it has room for.
 class DiskReader {
 public:
@@ -38,8 +45,9 @@ public:
     void read(const QString& line) {
         if (isFormatted(line))
             add(diskEntry(line));
-        if (targets_ > 0)
-            tidyCopyMenu();
+        // The first disk is the one in use, and no target for a copy of its own games.
+        if (targets_ > 0 && form_.optLocal.value)
+            form_.mnuHDD[0].enabled = false;
     }
 
 private:
@@ -52,16 +60,6 @@ private:
         target.caption = entry;
         target.visible = true;
         target.enabled = true;
-    }
-
-    void tidyCopyMenu() {
-        // The first disk is the one in use, and no target for a copy of its own games.
-        if (form_.optLocal.value)
-            form_.mnuHDD[0].enabled = false;
-        for (ui::MenuEntry& target : form_.mnuHDD) {
-            if (target.caption.get().isEmpty())
-                target.visible = false;
-        }
     }
 
     ui::FrmMain& form_;
@@ -112,6 +110,7 @@ Then ReadDevices(Shared& shared, const QString& text) {
         if (shared.blnQueryOptical)
             drives.read(line);
     }
+    hideBlankTargets(form);
 
     shared.blnQueryHD = false;
     if (!shared.blnQueryOptical)

@@ -1,7 +1,7 @@
 #include "interpreter/disc_stage.h"
 
-#include "app/shared.h"
-#include "interpreter/text_primitives.h"
+#include "base/shared.h"
+#include "base/text_primitives.h"
 #include "interpreter/units.h"
 
 namespace tarnwell {

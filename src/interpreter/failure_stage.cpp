@@ -1,8 +1,8 @@
 #include "interpreter/failure_stage.h"
 
-#include "app/shared.h"
-#include "interpreter/text_primitives.h"
-#include "queue/job_result.h"
+#include "base/shared.h"
+#include "base/text_primitives.h"
+#include "status/jobs.h"
 
 namespace tarnwell {
 
@@ -56,22 +56,15 @@ bool IsConnectionFailure(const QString& text) {
 }
 
 void ReportConnectionFailure(Shared& shared) {
-    WriteJobResult(shared, "Error (Could not connect to PS2, restart tarnd_svr.elf)");
+    Jobs(shared).setRunningResult("Error (Could not connect to PS2, restart tarnd_svr.elf)");
     // The game list that was asked for will not come; the flag stays up, as the tool may still be talking.
     if (shared.blnReadTOC)
         shared.message(kRestartServer, MessageIcon::Stop);
 }
 
 void ReadJobFailure(Shared& shared, const QString& text) {
-    WriteJobResult(shared, resultOf(text));
+    Jobs(shared).setRunningResult(resultOf(text));
     shared.blnJobDone = true;
-}
-
-void WriteJobResult(Shared& shared, const QString& result) {
-    ui::ListView& jobs = shared.frmMain.lstJob;
-    const int row = shared.intJobIndex - 1;
-    if (!shared.blnInstallRunning && row >= 0 && row < jobs.count())
-        jobs.setText(row, result);
 }
 
 } // namespace tarnwell

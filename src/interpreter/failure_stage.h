@@ -12,7 +12,4 @@ void ReportConnectionFailure(Shared& shared);
 /// Turns a text that is no progress into the result of the running job.
 void ReadJobFailure(Shared& shared, const QString& text);
 
-/// Writes the result of the running job into its row; an install without a queue has none.
-void WriteJobResult(Shared& shared, const QString& result);
-
 } // namespace tarnwell

@@ -1,10 +1,10 @@
 #include "interpreter/free_space_stage.h"
 
-#include "app/fault.h"
-#include "app/shared.h"
-#include "interpreter/text_primitives.h"
+#include "base/fault.h"
+#include "base/shared.h"
+#include "base/text_primitives.h"
 #include "interpreter/units.h"
-#include "queue/percent_bar.h"
+#include "status/percent_bar.h"
 
 namespace tarnwell {
 
@@ -32,11 +32,6 @@ QString gigabytes(double megabytes) {
 }
 
 } // namespace
-
-void ClearFreeSpace(Shared& shared) {
-    PercentBar(shared.frmMain.picDiskSpace, 100, 0, shared.ports.pump);
-    shared.frmMain.lblDiskSpace.caption = "(no active device)";
-}
 
 bool IsSummaryLine(const QString& line) {
     return line.contains(QLatin1String("total")) && line.contains(QLatin1String("used")) &&

@@ -1,10 +1,12 @@
 #include "interpreter/game_list_stage.h"
 
-#include "app/fault.h"
-#include "app/shared.h"
+#include "base/shared.h"
+#include "base/text_primitives.h"
 #include "interpreter/free_space_stage.h"
-#include "interpreter/text_primitives.h"
 #include "interpreter/units.h"
+#include "status/device_display.h"
+
+#include <QScopeGuard>
 
 namespace tarnwell {
 
@@ -30,7 +32,7 @@ void enableGameButtons(ui::FrmMain& form) {
 
 void AddGameRow(ui::ListView& list, const QString& name, const QString& startup, const QString& size,
                 const QString& type, const QString& flags) {
-    list.append({name, {startup, size, type, flags}, {}});
+    list.append({name, {startup, size, type, flags}, list.tag});
 }
 
 /// A line of the tool's table: columns at fixed places, the name up to the end.
@@ -57,36 +59,25 @@ void readTable(Shared& shared, const QStringList& lines) {
     ShowGameCount(shared, form.lstHD.count());
 }
 
-Then refuse(Shared& shared, const char* why, MessageIcon icon) {
-    shared.message(why, icon);
-    shared.blnReadTOC = false;
-    return Then::Stop;
-}
-
 } // namespace
 
 Then ReadGameList(Shared& shared, const QString& text) {
-    if (text.contains(QLatin1String("A connection attempt failed")))
-        return refuse(shared, kConsoleNotFound, MessageIcon::Stop);
-    if (text.contains(QLatin1String("not a PlayStation 2 HDD.")))
-        return refuse(shared, kNotAPs2Disk, MessageIcon::Exclamation);
-
+    // The one answer is here, whether it can be read or not. Left up, the flag would keep the output of every
+    // later job from being read.
+    const auto answered = qScopeGuard([&shared] { shared.blnReadTOC = false; });
+    if (text.contains(QLatin1String("A connection attempt failed"))) {
+        shared.message(kConsoleNotFound, MessageIcon::Stop);
+        return Then::Stop;
+    }
+    if (text.contains(QLatin1String("not a PlayStation 2 HDD."))) {
+        shared.message(kNotAPs2Disk);
+        return Then::Stop;
+    }
     ClearFreeSpace(shared);
     shared.frmMain.lstHD.clear();
-    try {
-        if (text.startsWith(QLatin1String("type")))
-            readTable(shared, text.split(QLatin1String("\r\n")));
-    } catch (const Fault&) {
-        // Left up, the flag would keep the output of every later job from being read.
-        shared.blnReadTOC = false;
-        throw;
-    }
-    shared.blnReadTOC = false;
+    if (text.startsWith(QLatin1String("type")))
+        readTable(shared, text.split(QLatin1String("\r\n")));
     return Then::NextStage;
-}
-
-void ShowGameCount(Shared& shared, int games) {
-    shared.frmMain.fmBrowse.caption = QStringLiteral("Browse, Backup, and Delete - %1 Games").arg(games);
 }
 
 } // namespace tarnwell

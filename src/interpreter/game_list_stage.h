@@ -8,10 +8,8 @@ namespace tarnwell {
 
 struct Shared;
 
-/// Reads the tool's answer to "tarn_toc" into the game list, and enables what a list with games allows.
+/// Reads the tool's answer to "tarn_toc" into the game list, and enables what a list with games allows. Each
+/// row takes over the list's tag: the device that was asked.
 Then ReadGameList(Shared& shared, const QString& text);
-
-/// Says above the game list how many games there are.
-void ShowGameCount(Shared& shared, int games);
 
 } // namespace tarnwell

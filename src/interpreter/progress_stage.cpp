@@ -1,12 +1,11 @@
 #include "interpreter/progress_stage.h"
 
-#include "app/fault.h"
-#include "app/shared.h"
-#include "interpreter/failure_stage.h"
-#include "interpreter/text_primitives.h"
-#include "queue/job_result.h"
-#include "queue/percent_bar.h"
-#include "services/mod_tray_icon.h"
+#include "base/fault.h"
+#include "base/mod_tray_icon.h"
+#include "base/shared.h"
+#include "base/text_primitives.h"
+#include "status/jobs.h"
+#include "status/percent_bar.h"
 
 #include <cmath>
 
@@ -76,7 +75,7 @@ QString windowCaption(Shared& shared, const QString& percent, ProgressOf mode, i
 }
 
 void completeJob(Shared& shared) {
-    WriteJobResult(shared, kComplete);
+    Jobs(shared).setRunningResult(kComplete);
     shared.blnJobDone = true;
     shared.blnQueueRunning = false;
     shared.blnInstallRunning = false;

@@ -1,13 +1,12 @@
 #include "interpreter/tool_commands.h"
 
-#include "interpreter/text_primitives.h"
+#include "base/text_primitives.h"
 
 namespace tarnwell {
 
 namespace {
 
 constexpr qsizetype kShortDeviceLength = 5;
-constexpr qsizetype kDriveNameLength = 4; ///< cd0:
 
 QString installWord(bool isDvd) {
     return isDvd ? QStringLiteral("inject_dvd") : QStringLiteral("inject_cd");
@@ -25,30 +24,6 @@ QString LocalDeviceLong(const QString& entry) {
 
 QString LocalDeviceShort(const QString& entry) {
     return entry.left(kShortDeviceLength);
-}
-
-QString ActiveDeviceLong(const ui::FrmMain& form) {
-    return form.optLocal.value ? LocalDeviceLong(form.cmbHD.text()) : form.txtIP.text;
-}
-
-QString ActiveDeviceShort(const ui::FrmMain& form) {
-    return form.optLocal.value ? LocalDeviceShort(form.cmbHD.text()) : form.txtIP.text;
-}
-
-QString ResolveOpticalDrive(const ui::FrmMain& form, const QString& entry) {
-    const qint16 number = RoundToInt16(Val(Mid(entry, 3, 1)));
-    const QString& map = form.cmbOptical.tag;
-    const QString drive = ElementAt(map.isEmpty() ? QStringList() : map.split(','), number);
-    return drive == QLatin1String("0") ? entry.left(kDriveNameLength) : drive;
-}
-
-QString FlagsWord(const ui::FrmMain& form) {
-    QString word;
-    for (std::size_t i = 0; i < form.mnuFlags.size(); ++i) {
-        if (form.mnuFlags[i].checked)
-            word += '+' + QString::number(i + 1);
-    }
-    return word;
 }
 
 QString QueryCommand() {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/frm_main.h"
+#include <QString>
 
 /// The tool's command language: every command text that the program sends, without the tool's path, and the
 /// arguments that go into it.
@@ -14,17 +14,6 @@ QString QuoteArg(const QString& value);
 /// goes up to the first colon, the short one is five characters, so that hdd10: loses its colon.
 QString LocalDeviceLong(const QString& entry);
 QString LocalDeviceShort(const QString& entry);
-
-/// The device that is in use: the address of the console as typed, or the chosen local disk.
-QString ActiveDeviceLong(const ui::FrmMain& form);
-QString ActiveDeviceShort(const ui::FrmMain& form);
-
-/// The drive argument for an entry of the list of optical drives: the system's drive if it is known, else the
-/// tool's own name for it. An entry that the last query does not know is a Fault.
-QString ResolveOpticalDrive(const ui::FrmMain& form, const QString& entry);
-
-/// The ticked compatibility flags as one word, such as +1+3+8.
-QString FlagsWord(const ui::FrmMain& form);
 
 /// A game to install: `type` as the list of types shows it, `source` an image or a drive.
 struct Installation {

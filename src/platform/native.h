@@ -22,10 +22,14 @@ public:
     virtual void processHasStarted() = 0;
 };
 
-/// Sets up a process that has not been started: its program and arguments out of a command line (see
-/// ProcessLauncher::start), a pipe for what it prints, a life of its own that outlasts this program, no
-/// window. Null if the command line names no program, or if the system has no more pipes.
-std::unique_ptr<OutputPipe> prepareProcess(QProcess& process, const QString& commandLine);
+/// Sets up a process that has not been started: its program, which is a file, and its arguments, which are as
+/// they stand behind it in a command line (see ProcessLauncher::start), a pipe for what it prints, a life of
+/// its own that outlasts this program, no window. Null if the system has no more pipes.
+std::unique_ptr<OutputPipe> prepareProcess(QProcess& process, const QString& program,
+                                           const QString& arguments);
+
+/// What the user can do about a program that the system refuses to start; empty if nothing is known.
+QString hintAtStart(const QString& program);
 
 /// Sends the interrupt of Ctrl+C to a process that `prepareProcess` has set up and that runs.
 /// False if the system refused.
@@ -41,6 +45,10 @@ std::optional<WindowsProfile> windowsProfile();
 /// The other name that Windows keeps for a file or folder, of few and plain characters; empty if there is
 /// none.
 QString shortPath(const QString& path);
+
+/// Shows a balloon by the desktop's own means, beside the tray and without a word to its icon. False if the
+/// desktop has none.
+bool showNotification(const QString& title, const QString& text);
 
 std::unique_ptr<Processes> makeProcesses();
 std::unique_ptr<Sound> makeSound();

@@ -65,17 +65,20 @@ public:
     /// Sends the interrupt that Ctrl+C at its console would send. Returns at once; the program may live on
     /// for as long as it likes. False if the interrupt could not be sent; it may be tried again.
     virtual bool interrupt() = 0;
+    /// Ends the process at once, wherever it is. Does nothing when it has gone.
+    virtual void endByForce() = 0;
 };
 
 class ProcessLauncher {
 public:
     virtual ~ProcessLauncher() = default;
     /// Starts a command line: the program's path, which may hold blanks and is not quoted, a blank, the
-    /// arguments. On Windows the text goes to the system as it is. Elsewhere the program is the shortest
-    /// beginning, up to a blank, that names a file, and the rest is split as a Windows program would split
+    /// arguments. The program is the longest beginning, up to a blank, that names a file, and nothing else is
+    /// started in its place; a path that ends in a blank or a dot, or that steps back (..), names none. On
+    /// Windows the rest goes to the program as it is. Elsewhere it is split as a Windows program would split
     /// it: double quotes group, two of them are an empty argument, nothing is escaped. Null if the program
-    /// cannot be started.
-    virtual std::unique_ptr<ChildProcess> start(const QString& commandLine) = 0;
+    /// cannot be started; `whyNot` then tells the user why, in the system's own words.
+    virtual std::unique_ptr<ChildProcess> start(const QString& commandLine, QString& whyNot) = 0;
 };
 
 /// Other processes of this machine, by their id.

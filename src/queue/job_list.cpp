@@ -1,7 +1,6 @@
 #include "queue/job_list.h"
 
-#include "interpreter/text_primitives.h"
-#include "queue/job_result.h"
+#include "base/text_primitives.h"
 
 namespace tarnwell {
 
@@ -11,7 +10,7 @@ constexpr int kRightButton = 2;
 
 } // namespace
 
-JobList::JobList(Shared& shared) : shared_(shared) {
+JobList::JobList(Shared& shared) : shared_(shared), jobs_(shared) {
     ui::FrmMain& frmMain = shared_.frmMain;
     frmMain.cmdRemove.Click = [this] { removeSelected(); };
     frmMain.cmdClear.Click = [this] { clear(); };
@@ -19,9 +18,8 @@ JobList::JobList(Shared& shared) : shared_(shared) {
 }
 
 void JobList::queueJob(const Job& job, const QString& command) {
-    AddJob(job);
-    ui::ListView& lstJob = shared_.frmMain.lstJob;
-    lstJob.setTag(lstJob.count() - 1, command);
+    jobs_.AddJob(job);
+    jobs_.setCommand(jobs_.count() - 1, command);
     enableButtons(true);
 }
 
@@ -30,17 +28,10 @@ void JobList::queueJob(const Job& job, const QString& command, const QString& ba
     shared_.balloon(balloonText);
 }
 
-void JobList::AddJob(const Job& job) {
-    shared_.frmMain.lstJob.append(
-        {.text = kPending,
-         .subItems = {job.task, job.source, job.destination, job.name, job.startup, job.type, job.flags}});
-}
-
 void JobList::removeSelected() {
     ui::ListView& lstJob = shared_.frmMain.lstJob;
-    const int row = lstJob.selectedItem;
-    // The row that has the focus need not be selected.
-    if (row >= 0 && lstJob.row(row).selected)
+    const int row = lstJob.selectedRow();
+    if (row >= 0)
         lstJob.remove(row);
     if (lstJob.count() == 0)
         enableButtons(false);
@@ -59,22 +50,20 @@ void JobList::enableButtons(bool enable) {
 }
 
 void JobList::pressMouse(int button) {
-    const int row = shared_.frmMain.lstJob.selectedItem;
+    const int row = shared_.frmMain.lstJob.selectedRow();
     if (button == kRightButton && row >= 0)
         editCommand(row);
 }
 
 void JobList::editCommand(int row) {
-    ui::ListView& lstJob = shared_.frmMain.lstJob;
-    const QString& result = lstJob.row(row).text;
-    if (result == kActive || result == kComplete) {
+    if (!jobs_.editable(row)) {
         shared_.message("You cannot edit the command-line for jobs that are completed or currently active.");
         return;
     }
-    const auto answer = shared_.ports.dialogs.input("Make changes and click OK to save.", "Edit command",
-                                                    lstJob.row(row).tag);
+    const auto answer =
+        shared_.ports.dialogs.input("Make changes and click OK to save.", "Edit command", jobs_.command(row));
     if (answer && !Trim(*answer).isEmpty())
-        lstJob.setTag(row, *answer);
+        jobs_.setCommand(row, *answer);
 }
 
 } // namespace tarnwell

@@ -1,21 +1,15 @@
 #pragma once
 
-#include "app/shared.h"
+#include "base/shared.h"
+#include "status/jobs.h"
 
 namespace tarnwell {
-
-/// What the columns of the job list show of a job, all of it text; what a kind of job has no use for stays
-/// empty.
-struct Job {
-    QString task{}, source{}, destination{}, name{}, startup{}, type{}, flags{};
-};
 
 /// The balloon of a workflow that has queued its job.
 inline constexpr char kJobAdded[] = "Job added to job queue";
 
-/// The jobs that wait, run and have run. They are the rows of lstJob and nothing else: the state in the first
-/// column, what the job is about in the others, and the command, the only part that is ever executed, in the
-/// row's hidden tag. Outside a run the buttons that work on jobs are usable exactly when there are jobs.
+/// What users and workflows do to the list of jobs. Outside a run the buttons that work on jobs are usable
+/// exactly when there are jobs.
 class JobList {
 public:
     explicit JobList(Shared& shared);
@@ -26,7 +20,6 @@ public:
     void queueJob(const Job& job, const QString& command, const QString& balloonText);
 
 private:
-    void AddJob(const Job& job);
     void removeSelected();
     void clear();
     void enableButtons(bool enable);
@@ -34,6 +27,7 @@ private:
     void editCommand(int row);
 
     Shared& shared_;
+    Jobs jobs_;
 };
 
 } // namespace tarnwell

@@ -1,6 +1,6 @@
 #include "services/about_window.h"
 
-#include "interpreter/text_primitives.h"
+#include "base/text_primitives.h"
 
 namespace tarnwell {
 
@@ -30,7 +30,6 @@ void AboutWindow::open() {
         return;
     auto& frmAbout = shared_.frmAbout;
     frmAbout->Label2.caption = VersionIn(shared_.frmMain.caption);
-    frmAbout->txtAbout.text = QString();
     frmAbout->centreOver(shared_.frmMain);
     frmAbout->topmost = true;
     frmAbout->show();

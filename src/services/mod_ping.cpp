@@ -1,6 +1,6 @@
 #include "services/mod_ping.h"
 
-#include "services/internet_address.h"
+#include "base/internet_address.h"
 
 namespace tarnwell {
 

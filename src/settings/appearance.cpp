@@ -1,7 +1,7 @@
 #include "settings/appearance.h"
 
-#include "app/fault.h"
-#include "interpreter/text_primitives.h"
+#include "base/fault.h"
+#include "base/text_primitives.h"
 
 #include <cmath>
 
@@ -13,6 +13,9 @@ const QString kFontKey = QStringLiteral("Font");
 const QString kForeKey = QStringLiteral("Forecolor");
 const QString kBackKey = QStringLiteral("Backcolor");
 const QString kSwitchKey = QStringLiteral("UseColor");
+
+/// Keeps its own colours, or the bar could not be told from its ground.
+const QString kSpaceBar = QStringLiteral("picDiskSpace");
 
 constexpr qint16 kLargestFontSize = 2160; // points
 
@@ -27,12 +30,33 @@ bool isColor(qint32 value) {
     return bits <= kRgb || (bits >= kSystemColor && bits <= kLastSystemColor);
 }
 
-template <class Visit>
-void visitControls(const ui::Form& form, const QStringList& leftOut, Visit visit) {
+void giveFont(const ui::Form& form, const ui::Font& chosen, const QString& leftOut = {}) {
     for (ui::Control* control : form.controls()) {
-        if (!leftOut.contains(control->name))
-            visit(*control);
+        if (!control->hasFont() || control->name == leftOut)
+            continue;
+        ui::Font font = chosen;
+        if (font.size <= 0)
+            font.size = control->font.get().value_or(ui::Font{}).size;
+        control->font = font;
     }
+}
+
+using Color = ui::Property<std::optional<std::int32_t>>;
+
+void giveColor(const ui::Form& form, Color ui::Control::*which, qint32 color, const QString& leftOut = {}) {
+    for (ui::Control* control : form.controls()) {
+        if (control->hasColors() && control->name != leftOut)
+            control->*which = color;
+    }
+}
+
+void giveForeColor(const ui::Form& form, qint32 color, const QString& leftOut = {}) {
+    giveColor(form, &ui::Control::foreColor, color, leftOut);
+}
+
+void giveBackColor(ui::Form& form, qint32 color, const QString& leftOut = {}) {
+    giveColor(form, &ui::Control::backColor, color, leftOut);
+    form.backColor = color;
 }
 
 Fault unreadableFont(const QString& value) {
@@ -78,6 +102,8 @@ Appearance::Appearance(Shared& shared) : shared_(shared) {
     frmSettings.cmdForecolor.Click = [this] { chooseForeColor(); };
     frmSettings.cmdBackcolor.Click = [this] { chooseBackColor(); };
     frmSettings.chkColors.Click = [this] { switchColors(); };
+    // Closed between two runs, it has gone back to the looks that it was made with.
+    shared_.frmStatus.untouched().Load = [this] { dressStatusWindow(); };
 }
 
 void Appearance::load() {
@@ -109,9 +135,8 @@ void Appearance::loadFont() {
 }
 
 void Appearance::loadColors() {
-    enableColorButtons(true);
-    qint32 fore = shared_.config.number(kForeKey);
-    qint32 back = shared_.config.number(kBackKey);
+    qint32 fore = shared_.config.wholeNumber(kForeKey);
+    qint32 back = shared_.config.wholeNumber(kBackKey);
     if (fore == 0 && back == 0) {
         fore = defaultColor(kForeKey);
         back = defaultColor(kBackKey);
@@ -122,40 +147,35 @@ void Appearance::loadColors() {
 }
 
 void Appearance::ApplyFont(const QString& name, qint16 size, bool bold, bool italic) {
-    const auto setFont = [&](ui::Control& control) {
-        if (!control.hasFont())
-            return;
-        ui::Font font = control.font.get().value_or(ui::Font{});
-        font.name = name;
-        if (size > 0)
-            font.size = size;
-        font.bold = bold;
-        font.italic = italic;
-        control.font = font;
-    };
-    visitControls(*shared_.frmSettings.operator->(), {}, setFont);
+    font_ = ui::Font{name, double(size), bold, italic};
+    giveFont(*shared_.frmSettings, *font_);
     // The tool's output keeps its fixed pitch.
-    visitControls(shared_.frmMain, {"txtOutput"}, setFont);
-    visitControls(*shared_.frmStatus.operator->(), {}, setFont);
+    giveFont(shared_.frmMain, *font_, "txtOutput");
+    giveFont(*shared_.frmStatus, *font_);
 }
 
 void Appearance::ApplyColors(bool isFore, qint32 fore, qint32 back) {
-    const qint32 color = isFore ? fore : back;
-    if (!isColor(color))
-        return;
-    const auto setColor = [&](ui::Control& control) {
-        if (control.hasColors())
-            (isFore ? control.foreColor : control.backColor) = color;
-    };
-    ui::Form& frmSettings = *shared_.frmSettings.operator->();
-    ui::Form& frmStatus = *shared_.frmStatus.operator->();
-    visitControls(frmSettings, {isFore ? "picBackcolor" : "picForecolor"}, setColor);
-    visitControls(shared_.frmMain, {"picPercent", "picDiskSpace"}, setColor);
-    visitControls(frmStatus, {}, setColor);
-    if (isFore)
-        return;
-    for (ui::Form* form : {static_cast<ui::Form*>(&shared_.frmMain), &frmSettings, &frmStatus})
-        form->backColor = color;
+    if (isFore && isColor(fore)) {
+        foreColor_ = fore;
+        giveForeColor(*shared_.frmSettings, fore);
+        giveForeColor(shared_.frmMain, fore, kSpaceBar);
+        giveForeColor(*shared_.frmStatus, fore);
+    } else if (!isFore && isColor(back)) {
+        backColor_ = back;
+        giveBackColor(*shared_.frmSettings, back);
+        giveBackColor(shared_.frmMain, back, kSpaceBar);
+        giveBackColor(*shared_.frmStatus, back);
+    }
+}
+
+void Appearance::dressStatusWindow() {
+    ui::FrmStatus& frmStatus = shared_.frmStatus.untouched();
+    if (font_)
+        giveFont(frmStatus, *font_);
+    if (foreColor_)
+        giveForeColor(frmStatus, *foreColor_);
+    if (backColor_)
+        giveBackColor(frmStatus, *backColor_);
 }
 
 void Appearance::chooseFont() {
@@ -168,7 +188,7 @@ void Appearance::chooseFont() {
 }
 
 void Appearance::chooseForeColor() {
-    const auto color = shared_.ports.dialogs.chooseColor(shared_.config.number(kForeKey));
+    const auto color = shared_.ports.dialogs.chooseColor(shared_.config.wholeNumber(kForeKey));
     if (!color)
         return;
     ApplyColors(true, *color, 0);
@@ -176,7 +196,7 @@ void Appearance::chooseForeColor() {
 }
 
 void Appearance::chooseBackColor() {
-    const auto color = shared_.ports.dialogs.chooseColor(shared_.config.number(kBackKey));
+    const auto color = shared_.ports.dialogs.chooseColor(shared_.config.wholeNumber(kBackKey));
     if (!color)
         return;
     ApplyColors(false, 0, *color);
@@ -191,8 +211,8 @@ void Appearance::switchColors() {
         applyBoth(defaultColor(kForeKey), defaultColor(kBackKey));
         return;
     }
-    const qint32 fore = shared_.config.number(kForeKey);
-    const qint32 back = shared_.config.number(kBackKey);
+    const qint32 fore = shared_.config.wholeNumber(kForeKey);
+    const qint32 back = shared_.config.wholeNumber(kBackKey);
     if (fore != 0 || back != 0)
         applyBoth(fore, back);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/shared.h"
+#include "base/shared.h"
 
 namespace tarnwell {
 
@@ -28,8 +28,11 @@ private:
     void loadColors();
     void applyBoth(qint32 fore, qint32 back);
     void enableColorButtons(bool enable);
+    void dressStatusWindow();
 
     Shared& shared_;
+    std::optional<ui::Font> font_; ///< what was applied last; a size of 0 leaves that of each control
+    std::optional<qint32> foreColor_, backColor_;
 };
 
 } // namespace tarnwell

@@ -1,6 +1,7 @@
 #include "settings/data_folder.h"
 
-#include "interpreter/text_primitives.h"
+#include "base/picked_path.h"
+#include "base/text_primitives.h"
 #include "settings/tool_config_text.h"
 
 #include <QDir>
@@ -41,7 +42,12 @@ DataFolder::DataFolder(Shared& shared, ToolConfig& toolConfig) : shared_(shared)
 }
 
 void DataFolder::settle() {
-    if (!shared_.config.text("ApplicationData").isEmpty() && toolConfig_.exists())
+    find();
+    shared_.frmSettings->txtApplicationData.text = toolConfig_.folder();
+}
+
+void DataFolder::find() {
+    if (toolConfig_.exists())
         return;
     if (takeIfThere(systemFolder()))
         return;
@@ -68,22 +74,18 @@ void DataFolder::reset() {
     frmSettings->txtDiscDatabase.text = frmSettings->txtApplicationData.text + kDiscDatabase;
 }
 
+/// A folder whose name the store and the tool's file cannot hold, such as that of a user with a name from
+/// elsewhere, counts as not there.
 bool DataFolder::takeIfThere(const QString& folder) {
-    const QString known = storable(folder);
+    const QString known = shared_.ports.folders.pathInCodePage(folder);
     if (!DirExists(known))
         return false;
     take(known);
     return true;
 }
 
-/// The store and the tool's file are kept in the system's 8-bit code page. A folder that cannot be written in
-/// it, such as that of a user with a name from elsewhere, counts as not there.
-QString DataFolder::storable(const QString& folder) const {
-    return shared_.ports.folders.pathInCodePage(folder);
-}
-
 void DataFolder::take(const QString& folder) {
-    shared_.config.write("ApplicationData", folder);
+    toolConfig_.setFolder(folder);
     shared_.frmSettings->txtApplicationData.text = folder;
 }
 
@@ -105,8 +107,10 @@ void DataFolder::choose() {
         {.title = pickerTitle(), .folder = forPicker(frmSettings->txtDefaultPath.text)});
     if (!chosen)
         return;
-    const QString folder = storable(WithSeparator(*chosen));
-    if (folder.isEmpty() || !ToolConfig::existsIn(folder)) {
+    const auto folder = NameInCodePage(shared_, WithSeparator(*chosen));
+    if (!folder)
+        return;
+    if (!ToolConfig::existsIn(*folder)) {
         shared_.message(
             "The tarnwell configuration file was not found in the selected directory. If you feel "
             "that you selected the correct directory and you still get this error message, try "
@@ -114,13 +118,13 @@ void DataFolder::choose() {
         enableToolSettings(false);
         return;
     }
-    take(folder);
+    take(*folder);
     toolConfig_.LoadToolSettings();
     enableToolSettings(true);
 }
 
 void DataFolder::enableToolSettings(bool enable) {
-    ui::FrmSettings& form = *shared_.frmSettings.operator->();
+    ui::FrmSettings& form = *shared_.frmSettings;
     for (ui::Control* control : std::initializer_list<ui::Control*>{
              &form.chkAutoThrottle, &form.chkEnableASPI, &form.chkLimit28bit, &form.chkUseCompression,
              &form.chkToxicOS, &form.txtTargetkbps, &form.txtDiscDatabase})

@@ -17,9 +17,9 @@ public:
     void reset();
 
 private:
+    void find();
     void take(const QString& folder);
     bool takeIfThere(const QString& folder);
-    QString storable(const QString& folder) const;
     void askUser();
     void choose();
     void enableToolSettings(bool enable);

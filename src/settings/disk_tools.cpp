@@ -1,12 +1,15 @@
 #include "settings/disk_tools.h"
 
-#include "app/fault.h"
+#include "base/fault.h"
+#include "base/picked_path.h"
 #include "interpreter/tool_commands.h"
 #include "services/mod_ping.h"
 #include "workflows/device_selection.h"
 #include "workflows/query.h"
 
 #include <QFile>
+#include <QFileInfo>
+#include <QScopeGuard>
 
 namespace tarnwell {
 
@@ -20,30 +23,36 @@ QString formatQuestion(const QString& entry) {
            "\r\n\r\nALL EXISTING DATA ON THIS DRIVE WILL BE LOST";
 }
 
+/// Renames a file that is to be replaced. Returns its new name; none if there is no such file.
+QString setAside(const QString& file) {
+    if (!QFile::exists(file))
+        return {};
+    for (int number = 1; QFileInfo(file).isFile(); ++number) {
+        QString aside = file + ".old" + QString::number(number);
+        if (QFile::rename(file, aside))
+            return aside;
+        if (!QFile::exists(aside))
+            break;
+    }
+    throw Fault("The file " + file + " is there already and cannot be replaced. Nothing was saved.");
+}
+
 /// While this lives, neither the main window nor the disk tools start anything else.
 class LongWork {
 public:
     LongWork(Shared& shared, GuiSwitch& guiSwitch)
-        : guiSwitch_(guiSwitch), pausedAlready_(guiSwitch.paused()),
-          frmSettings_(shared.frmSettings.untouched()), hourglass_(frmSettings_) {
-        // Work that runs already has paused the main window, and knows how to restore it.
-        if (!pausedAlready_)
-            guiSwitch_.EnableGUI(false);
-        frmSettings_.fmTools.enabled = false;
+        : pause_(guiSwitch), hourglass_(shared.frmSettings.untouched()),
+          fmTools_(shared.frmSettings.untouched().fmTools) {
+        fmTools_.enabled = false;
     }
-    ~LongWork() {
-        frmSettings_.fmTools.enabled = true;
-        if (!pausedAlready_)
-            guiSwitch_.EnableGUI(true);
-    }
+    ~LongWork() { fmTools_.enabled = true; }
     LongWork(const LongWork&) = delete;
     LongWork& operator=(const LongWork&) = delete;
 
 private:
-    GuiSwitch& guiSwitch_;
-    const bool pausedAlready_;
-    ui::FrmSettings& frmSettings_;
+    const PauseOfMainWindow pause_;
     const Hourglass hourglass_;
+    ui::Frame& fmTools_;
 };
 
 } // namespace
@@ -63,6 +72,12 @@ void DiskTools::listDevices() {
     if (!requireTool(shared_))
         return;
     auto& frmSettings = shared_.frmSettings;
+    // A second search in the middle of this one would add its entries to the same list.
+    const auto reachableAgain =
+        qScopeGuard([&tools = frmSettings->fmTools, before = frmSettings->fmTools.enabled.get()] {
+            tools.enabled = before;
+        });
+    frmSettings->fmTools.enabled = false;
     frmSettings->cmbHD.clear();
     RunQuery(shared_.blnQuerySettings, channel_, interpreter_);
     if (const QString& address = shared_.frmMain.txtIP.text; !address.isEmpty())
@@ -86,19 +101,23 @@ void DiskTools::chooseDevice() {
 }
 
 void DiskTools::format() {
-    if (!requireTool(shared_))
+    if (!requireTool(shared_) || !requireEntry())
         return;
     ui::ComboBox& cmbHD = shared_.frmSettings->cmbHD;
     const int chosen = cmbHD.listIndex;
     const QString entry = cmbHD.text();
     if (!shared_.ports.dialogs.question(formatQuestion(entry), "ARE YOU 100% SURE?", MessageIcon::Stop))
         return;
+    if (!requireIdleTool(shared_, channel_))
+        return;
+    bool ran = false;
     {
         const LongWork work(shared_, guiSwitch_);
-        channel_.Tarn_Execute(FormatCommand(LocalDeviceShort(entry)));
+        ran = channel_.Tarn_Execute(FormatCommand(LocalDeviceShort(entry)));
         listDevices();
     }
-    shared_.balloon(cmbHD.text() + " has been formatted for HDLoader");
+    if (ran)
+        shared_.balloon(cmbHD.text() + " has been formatted for HDLoader");
     if (chosen < cmbHD.listCount())
         cmbHD.listIndex = chosen;
 }
@@ -111,11 +130,18 @@ void DiskTools::backUp() {
                                                       .folder = shared_.config.AppFolder(),
                                                       .fileName = "tarntoc.bak",
                                                       .askBeforeOverwriting = true});
-    if (!file)
+    const auto name = file ? NewNameInCodePage(shared_, *file) : std::nullopt;
+    if (!name || !requireIdleTool(shared_, channel_))
         return;
-    if (QFile::exists(*file) && !QFile::remove(*file))
-        throw Fault("The file " + *file + " is there already and cannot be replaced. Nothing was saved.");
-    runTool(BackupTocCommand(*from, *file));
+    // The tool writes a new file, and it may be that it cannot be started.
+    const QString old = setAside(*name);
+    const bool ran = runTool(BackupTocCommand(*from, *name));
+    if (old.isEmpty())
+        return;
+    if (ran)
+        QFile::remove(old);
+    else
+        QFile::rename(old, *name);
 }
 
 void DiskTools::restore() {
@@ -124,11 +150,14 @@ void DiskTools::restore() {
         return;
     const auto file = shared_.ports.dialogs.openFile(
         {.filter = kTocFiles + kAllFiles, .folder = shared_.config.AppFolder(), .mustExist = true});
-    if (file)
-        runTool(RestoreTocCommand(*to, *file));
+    const auto name = file ? NameInCodePage(shared_, *file) : std::nullopt;
+    if (name && requireIdleTool(shared_, channel_))
+        runTool(RestoreTocCommand(*to, *name));
 }
 
 std::optional<QString> DiskTools::device() {
+    if (!requireEntry())
+        return std::nullopt;
     const ui::ComboBox& cmbHD = shared_.frmSettings->cmbHD;
     if (cmbHD.listIndex != cmbHD.listCount() - 1)
         return LocalDeviceLong(cmbHD.text());
@@ -140,9 +169,16 @@ std::optional<QString> DiskTools::device() {
     return std::nullopt;
 }
 
-void DiskTools::runTool(const QString& command) {
+bool DiskTools::requireEntry() {
+    if (!shared_.frmSettings->cmbHD.text().isEmpty())
+        return true;
+    shared_.message("Please select a device from the list first.");
+    return false;
+}
+
+bool DiskTools::runTool(const QString& command) {
     const LongWork work(shared_, guiSwitch_);
-    channel_.Tarn_Execute(command);
+    return channel_.Tarn_Execute(command);
 }
 
 } // namespace tarnwell

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/enable_gui.h"
 #include "interpreter/output_interpreter.h"
 #include "tool/tool_channel.h"
+#include "work/enable_gui.h"
 
 namespace tarnwell {
 
@@ -19,9 +19,12 @@ private:
     void backUp();
     void restore();
 
-    /// The device of the chosen entry. None, and the user knows, if it is a console that does not answer.
+    /// The device of the chosen entry. None, and the user knows, if nothing is chosen or a console does not
+    /// answer.
     std::optional<QString> device();
-    void runTool(const QString& command);
+    bool requireEntry();
+    /// Returns whether the tool was started.
+    bool runTool(const QString& command);
 
     Shared& shared_;
     ToolChannel& channel_;

@@ -1,6 +1,7 @@
 #include "settings/gui_settings.h"
 
-#include "settings/tool_config_text.h"
+#include "base/picked_path.h"
+#include "base/set_check_box.h"
 
 namespace tarnwell {
 
@@ -16,7 +17,9 @@ GuiSettings::GuiSettings(Shared& shared, DataFolder& dataFolder, Sounds& sounds,
     writeAtClickUnlessOther(frmSettings.chkStandby, frmSettings.chkShutdownPC, "StandbyPC");
     frmSettings.chkStayOnTop.Click = [this] { keepOnTop(); };
     frmSettings.cmdDefaultISO.Click = [this] { chooseDefaultISO(); };
-    frmSettings.cmdSounds.Click = [this] { openSoundsMenu(); };
+    frmSettings.cmdSounds.Click = [this, &frmSettings] {
+        shared_.frmMain.mnuSounds.popUpBelow(frmSettings.cmdSounds);
+    };
 }
 
 void GuiSettings::LoadGUISettings() {
@@ -28,7 +31,6 @@ void GuiSettings::LoadGUISettings() {
     SetCheckBox(frmSettings->chkStandby, config.text("StandbyPC"));
     SetCheckBox(frmSettings->chkShutdownPS2, config.text("TurnOffPS2"));
     frmSettings->txtDefaultISO.text = config.text("DefaultISO");
-    frmSettings->txtApplicationData.text = config.text("ApplicationData");
     SetCheckBox(frmSettings->chkStayOnTop, config.text("StayOnTop"));
     SetCheckBox(frmSettings->chkBalloonTips, config.text("BalloonTips"));
     SetCheckBox(frmSettings->chkColors, config.text("UseColor"));
@@ -68,18 +70,11 @@ void GuiSettings::chooseDefaultISO() {
     const auto chosen = shared_.ports.dialogs.chooseFolder({.title = "Select PS2 Game ISO directory"});
     if (!chosen)
         return;
-    const QString folder = WithSeparator(*chosen);
-    shared_.config.write("DefaultISO", folder);
-    shared_.frmSettings->txtDefaultISO.text = folder;
-}
-
-void GuiSettings::openSoundsMenu() {
-    ui::FrmMain& frmMain = shared_.frmMain;
-    const ui::FrmSettings& frmSettings = *shared_.frmSettings.operator->();
-    const int x = frmSettings.fmGUI.left + frmSettings.cmdSounds.left;
-    const int y = frmSettings.fmGUI.top + frmSettings.cmdSounds.top + frmSettings.cmdSounds.height;
-    // The menu belongs to the main window, and so does its place.
-    frmMain.mnuSounds.popUp(frmSettings.left + x - frmMain.left, frmSettings.top + y - frmMain.top);
+    const auto folder = NameInCodePage(shared_, WithSeparator(*chosen));
+    if (!folder)
+        return;
+    shared_.config.write("DefaultISO", *folder);
+    shared_.frmSettings->txtDefaultISO.text = *folder;
 }
 
 } // namespace tarnwell

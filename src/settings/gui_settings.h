@@ -1,8 +1,8 @@
 #pragma once
 
-#include "queue/sounds.h"
 #include "settings/appearance.h"
 #include "settings/data_folder.h"
+#include "work/sounds.h"
 
 namespace tarnwell {
 
@@ -19,7 +19,6 @@ private:
     void writeAtClickUnlessOther(ui::CheckBox& box, ui::CheckBox& other, const QString& key);
     void keepOnTop();
     void chooseDefaultISO();
-    void openSoundsMenu();
 
     Shared& shared_;
     DataFolder& dataFolder_;

@@ -1,6 +1,7 @@
 #include "settings/settings_window.h"
 
-#include "app/fault.h"
+#include "base/fault.h"
+#include "base/picked_path.h"
 #include "settings/tool_config_text.h"
 
 namespace tarnwell {
@@ -98,10 +99,12 @@ void SettingsWindow::useDefaults() {
 
 void SettingsWindow::chooseDiscDatabase() {
     const auto file = shared_.ports.dialogs.openFile({.filter = "Tarnwell Disk Database|" + kDiscDatabase,
-                                                      .folder = shared_.config.text("ApplicationData"),
+                                                      .folder = toolConfig_.folder(),
                                                       .mustExist = true});
-    if (file && file->toLower().endsWith(kDiscDatabase))
-        shared_.frmSettings->txtDiscDatabase.text = *file;
+    if (!file || !file->toLower().endsWith(kDiscDatabase))
+        return;
+    if (const auto name = NameInCodePage(shared_, *file))
+        shared_.frmSettings->txtDiscDatabase.text = *name;
 }
 
 } // namespace tarnwell

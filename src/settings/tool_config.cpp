@@ -1,7 +1,7 @@
 #include "settings/tool_config.h"
 
-#include "app/fault.h"
-#include "app/replace_file.h"
+#include "base/fault.h"
+#include "base/replace_file.h"
 #include "settings/tool_config_text.h"
 
 #include <QDir>
@@ -13,6 +13,7 @@ namespace tarnwell {
 
 namespace {
 
+const QString kFolderKey = QStringLiteral("ApplicationData");
 constexpr qsizetype kMostCharacters = std::numeric_limits<qint16>::max();
 constexpr qsizetype kMostBytesACharacter = 4;
 
@@ -43,7 +44,14 @@ QString readAll(const QString& path) {
 } // namespace
 
 QString ToolConfig::folder() const {
-    return shared_.config.text("ApplicationData");
+    return folderOfThisRun_ ? *folderOfThisRun_ : shared_.config.text(kFolderKey);
+}
+
+void ToolConfig::setFolder(const QString& folder) {
+    shared_.config.write(kFolderKey, folder);
+    folderOfThisRun_.reset();
+    if (shared_.config.text(kFolderKey) != folder)
+        folderOfThisRun_ = folder;
 }
 
 bool ToolConfig::exists() const {
@@ -51,12 +59,15 @@ bool ToolConfig::exists() const {
 }
 
 bool ToolConfig::existsIn(const QString& folder) {
-    return FileExists(pathIn(folder));
+    return !folder.isEmpty() && FileExists(pathIn(folder));
 }
 
 void ToolConfig::LoadToolSettings() {
+    // A bare name would be a file in whatever folder is the current one.
+    if (folder().isEmpty())
+        return;
     try {
-        ReadToolConfig(readAll(pathIn(folder())), folder(), *shared_.frmSettings.operator->());
+        ReadToolConfig(readAll(pathIn(folder())), folder(), *shared_.frmSettings);
     } catch (const Fault& fault) {
         // The settings of the tool are no reason not to start.
         shared_.message(fault.text());

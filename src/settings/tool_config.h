@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/shared.h"
+#include "base/shared.h"
 
 namespace tarnwell {
 
@@ -10,20 +10,24 @@ class ToolConfig {
 public:
     explicit ToolConfig(Shared& shared) : shared_(shared) {}
 
-    /// In the folder of the store, whatever that is now.
+    /// Where the tool keeps its files, with a separator at its end: as the store has it, or as it was found
+    /// in this run if the store could not take it. Empty if nobody knows.
+    QString folder() const;
+    void setFolder(const QString& folder);
+
+    /// In that folder, whatever it is now.
     bool exists() const;
     static bool existsIn(const QString& folder);
 
-    /// Makes an empty file if there is none. A file that cannot be read is told to the user, and the controls
-    /// keep what they have.
+    /// Makes an empty file if there is none, but nothing without a folder. A file that cannot be read is told
+    /// to the user, and the controls keep what they have.
     void LoadToolSettings();
     /// Replaces the file as a whole. One that cannot be written is a Fault.
     void SaveToolSettings();
 
 private:
-    QString folder() const;
-
     Shared& shared_;
+    std::optional<QString> folderOfThisRun_; ///< unless the store has it
 };
 
 } // namespace tarnwell

@@ -1,8 +1,7 @@
 #include "settings/tool_config_text.h"
 
-#include "interpreter/text_primitives.h"
-
-#include <cmath>
+#include "base/set_check_box.h"
+#include "base/text_primitives.h"
 
 namespace tarnwell {
 
@@ -91,13 +90,6 @@ QString WriteToolConfig(const QString& folder, ui::FrmSettings& frmSettings, ui:
     append("target_kbps", orElse(frmSettings.txtTargetkbps, kFirstSpeed));
     append("use_compression", yesOrNo(frmSettings.chkUseCompression));
     return conf + "\r\n";
-}
-
-void SetCheckBox(ui::CheckBox& box, const QString& number) {
-    constexpr double kGreyed = 2;
-    const double value = std::nearbyint(Val(number)); // halves go to the even neighbour
-    if (value >= 0 && value <= kGreyed)
-        box.value = static_cast<int>(value);
 }
 
 } // namespace tarnwell

@@ -21,7 +21,4 @@ void ReadToolConfig(const QString& text, const QString& folder, ui::FrmSettings&
 /// The whole file. Boxes that must not be empty are filled on the way.
 QString WriteToolConfig(const QString& folder, ui::FrmSettings& frmSettings, ui::FrmMain& frmMain);
 
-/// Takes a number over into a check box, unless no check box can hold it.
-void SetCheckBox(ui::CheckBox& box, const QString& number);
-
 } // namespace tarnwell

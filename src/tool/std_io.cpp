@@ -2,6 +2,8 @@
 
 #include "tool/kill_process.h"
 
+#include <limits>
+
 namespace tarnwell {
 
 QString cStdIO::version() const {
@@ -22,6 +24,7 @@ QString cStdIO::ExecuteCommand(const QString& Command) {
         return {};
     }
     ready_ = false;
+    started_ = false;
     cancel_ = false;
     interrupted_ = false;
     if (!Command.isEmpty())
@@ -40,9 +43,11 @@ QString cStdIO::ExecuteCommand(const QString& Command) {
 }
 
 QString cStdIO::run() {
-    child_ = shared_.ports.launcher.start(commandLine_);
+    whyNotStarted_.clear();
+    child_ = shared_.ports.launcher.start(commandLine_, whyNotStarted_);
     if (!child_)
         return fail(kCreateProcessFailed, "CreateProcess failed.");
+    started_ = true;
     output_.clear();
     decoder_ = QStringDecoder(QStringDecoder::System);
     readWhileRunning();
@@ -69,7 +74,10 @@ void cStdIO::readWhileRunning() {
 }
 
 void cStdIO::drain() {
-    while (takeChunk()) {
+    // A program that was told to stop may print on without end. What it had printed by now is no more than
+    // the pipe holds.
+    qsizetype chunks = interrupted_ ? kPipeBytes / kChunkBytes : std::numeric_limits<qsizetype>::max();
+    while (chunks-- > 0 && takeChunk()) {
         shared_.ports.pump.pump();
         if (cancel_)
             return;
@@ -118,9 +126,17 @@ qint32 cStdIO::WriteData(const QString& strData) {
     return written < 0 ? -1 : static_cast<qint32>(written - lineEnd.size());
 }
 
-void cStdIO::interrupt() {
+bool cStdIO::interrupt() {
     if (child_ && !interrupted_)
         interrupted_ = child_->interrupt();
+    return !child_ || interrupted_;
+}
+
+void cStdIO::endByForce() {
+    if (child_)
+        child_->endByForce();
+    for (const auto& child : stopped_)
+        child->endByForce();
 }
 
 bool cStdIO::stoppedToolLives() {

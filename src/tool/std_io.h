@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/shared.h"
+#include "base/shared.h"
 #include "ui/signal.h"
 
 #include <QStringDecoder>
@@ -37,6 +37,10 @@ public:
     /// Runs `Command`, or the stored command line again if it is empty. Returns all that the program printed;
     /// nothing if another run is under way, if there is nothing to run, or if it cannot be started.
     QString ExecuteCommand(const QString& Command);
+    /// Whether the latest command could be started.
+    bool started() const { return started_; }
+    /// Why the latest command could not be started, for the user; empty if it could.
+    const QString& whyNotStarted() const { return whyNotStarted_; }
     /// Ends the run at its next pass and asks the program to close.
     void Cancel();
     /// Writes a line to the program's standard input. Returns the number of bytes written, without the line
@@ -45,14 +49,18 @@ public:
 
     /// Sends the running program its interrupt. The run ends at once; the program may live on for a while.
     /// Does nothing when no program runs, or when it has been told already. If the system refuses to deliver
-    /// the interrupt, the run goes on, and the next call tries again.
-    void interrupt();
+    /// the interrupt, the run goes on, and the next call tries again. Returns whether no program runs that
+    /// has not been told.
+    bool interrupt();
     /// Whether a program that was sent its interrupt still lives.
     bool stoppedToolLives();
+    /// Ends the running program and those that were sent their interrupt, wherever they are.
+    void endByForce();
 
 private:
     static constexpr int kPassMilliseconds = 30;
     static constexpr qsizetype kChunkBytes = 4096;
+    static constexpr qsizetype kPipeBytes = 65536;
 
     QString run();
     QString fail(int number, const QString& description);
@@ -64,8 +72,10 @@ private:
     Shared& shared_;
     QString commandLine_;
     QString output_;
+    QString whyNotStarted_;
     bool cancel_ = false;
     bool ready_ = true;
+    bool started_ = false;
     bool interrupted_ = false;
     std::unique_ptr<ChildProcess> child_;
     QStringDecoder decoder_; ///< lives as long as a run: a character can be split between two reads

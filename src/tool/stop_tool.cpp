@@ -2,8 +2,8 @@
 
 namespace tarnwell {
 
-void ShowStopPrompt(cStdIO& StdIO) {
-    StdIO.interrupt();
+bool ShowStopPrompt(cStdIO& StdIO) {
+    return StdIO.interrupt();
 }
 
 void WaitForStoppedTool(cStdIO& StdIO, EventPump& pump) {

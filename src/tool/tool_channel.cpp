@@ -1,7 +1,7 @@
 #include "tool/tool_channel.h"
 
-#include "app/fault.h"
-#include "queue/elapsed.h"
+#include "base/fault.h"
+#include "status/elapsed.h"
 #include "tool/stop_tool.h"
 
 namespace tarnwell {
@@ -36,11 +36,13 @@ QString ToolChannel::Tarn_Command(const QString& strCommand) {
     return {};
 }
 
-void ToolChannel::Tarn_Execute(const QString& strRawCommand) {
-    if (StdIO_.Ready())
-        run(strRawCommand);
-    else
+bool ToolChannel::Tarn_Execute(const QString& strRawCommand) {
+    if (!StdIO_.Ready()) {
         shared_.message("Unexpected error.", MessageIcon::Stop);
+        return false;
+    }
+    run(strRawCommand);
+    return StdIO_.started();
 }
 
 QString ToolChannel::run(const QString& command) {
@@ -49,8 +51,13 @@ QString ToolChannel::run(const QString& command) {
     if (StdIO_.stoppedToolLives())
         shared_.frmMain.txtOutput.text = kStoppedToolLives;
     WaitForStoppedTool(StdIO_, shared_.ports.pump);
+    // Another command may have run inside this wait.
+    shared_.frmMain.txtCommand.text = command;
     shared_.frmMain.txtOutput.text = QString();
+    unreadableLine_.reset();
     QString output = StdIO_.ExecuteCommand(shared_.config.ToolPath() + ' ' + command);
+    if (const QString& why = StdIO_.whyNotStarted(); !why.isEmpty())
+        shared_.frmMain.txtOutput.text = why;
     reportUnreadableLine();
     return output;
 }
@@ -114,6 +121,15 @@ bool requireTool(Shared& shared) {
         return true;
     shared.message(
         "tarnwell.exe was not found. Place it in the same directory as this program and try again.");
+    return false;
+}
+
+bool requireIdleTool(Shared& shared, const ToolChannel& channel) {
+    if (!channel.busy())
+        return true;
+    shared.message(
+        "tarnwell.exe is still at work, so nothing was started and nothing was changed. Wait until it "
+        "has finished and try again.");
     return false;
 }
 

@@ -19,8 +19,12 @@ public:
     /// channel through the same attempts.
     QString Tarn_Command(const QString& strCommand);
 
-    /// Runs a command once, whether it prints anything or not. Tells the user if the channel is busy.
-    void Tarn_Execute(const QString& strRawCommand);
+    /// Runs a command once, whether it prints anything or not. Tells the user if the channel is busy. Returns
+    /// whether the tool was started.
+    bool Tarn_Execute(const QString& strRawCommand);
+
+    /// The tool is at work.
+    bool busy() const { return !StdIO_.Ready(); }
 
 private:
     void StdIO_GotData(const QString& Data);
@@ -40,5 +44,9 @@ private:
 
 /// Tells the user that the tool is missing. Returns whether it is there.
 bool requireTool(Shared& shared);
+
+/// Tells the user that the tool is at work for somebody else, and that nothing is done. Returns whether it is
+/// free.
+bool requireIdleTool(Shared& shared, const ToolChannel& channel);
 
 } // namespace tarnwell

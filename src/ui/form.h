@@ -26,12 +26,18 @@ public:
     Property<bool> visible; ///< follows show and hide
     Property<std::optional<std::int32_t>> backColor;
 
+    /// A menu, which need not be this window's own, is to open below a control of this window.
+    Signal<PopupMenu&, const Control&> menuWanted;
+
     Event<> Load;
     /// Asked in this order before the window closes; a handler that sets `cancel` keeps it open.
     Event<bool& /*cancel*/> QueryUnload, Unload;
+    /// The user asks to close the window while its Unload handler is at it already.
+    Event<> CloseAgain;
 
     bool loaded() const { return loaded_; }
     bool shown() const { return visible; }
+    bool unloading() const { return unloading_; }
 
     void load();         ///< runs Load unless the window is loaded
     void show();         ///< loads it if need be
@@ -63,7 +69,7 @@ private:
     bool unloading_ = false;
 };
 
-/// A window that is loaded when it is touched: every use goes through `->`.
+/// A window that is loaded when it is touched: every use goes through `->` or `*`.
 template <class FormType>
 class LoadedOnTouch {
 public:
@@ -71,6 +77,8 @@ public:
         form_.load();
         return &form_;
     }
+
+    FormType& operator*() { return *operator->(); }
 
     /// The window as it is, without loading it.
     FormType& untouched() { return form_; }

@@ -1,10 +1,17 @@
 #include "ui/list_view.h"
 
+#include <algorithm>
+
 namespace tarnwell::ui {
 
 ListView::ListView(Form& form, const QString& controlName, const Declared& declared)
     : Control(form, Kind::ListView, controlName, declared), columns(*this, declared.columns),
       selectedItem(*this, -1), multiSelect(declared.multiSelect), editableLabels(declared.editableLabels) {}
+
+int ListView::selectedRow() const {
+    const auto found = std::find_if(rows_.begin(), rows_.end(), [](const Row& row) { return row.selected; });
+    return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
+}
 
 void ListView::append(Row row) {
     rows_.push_back(std::move(row));

@@ -25,6 +25,8 @@ public:
     int count() const { return static_cast<int>(rows_.size()); }
     /// The position must be a row's: 0 to count() - 1.
     const Row& row(int index) const { return rows_.at(static_cast<std::size_t>(index)); }
+    /// The first row that is shown as selected, -1 for none. It need not be the one that has the focus.
+    int selectedRow() const;
 
     void append(Row row);
     void remove(int index);

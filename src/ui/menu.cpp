@@ -15,6 +15,10 @@ PopupMenu::PopupMenu(Form& form, const QString& menuName, const QString& menuCap
     form.add(*this);
 }
 
+void PopupMenu::popUpBelow(const Control& control) {
+    control.form().menuWanted.emitNow(*this, control);
+}
+
 void PopupMenu::reset() {
     for (MenuEntry* entry : entries_)
         entry->reset();

@@ -8,6 +8,7 @@
 
 namespace tarnwell::ui {
 
+class Control;
 class Form;
 class PopupMenu;
 
@@ -45,12 +46,12 @@ public:
     void add(MenuEntry& entry) { entries_.push_back(&entry); }
     Form& form() const { return form_; }
 
-    /// Opens the menu with its corner at a place of its window, in twips, and returns while it is open.
-    void popUp(int x, int y) { poppedUp.emitNow(x, y); }
+    /// Opens the menu below a control, of whatever window, as it stands on the screen; leaves it where it is
+    /// if it is open. Returns while it is open, as `popUpAtPointer` does.
+    void popUpBelow(const Control& control);
     void popUpAtPointer() { poppedUpAtPointer.emitNow(); }
     void close() { closed.emitNow(); }
 
-    Signal<int, int> poppedUp;
     Signal<> poppedUpAtPointer, closed;
 
     void reset();

@@ -1,5 +1,7 @@
 #include "ui/user_actions.h"
 
+#include "ui/one_line.h"
+
 namespace tarnwell::ui {
 
 bool click(Button& button) {
@@ -61,7 +63,7 @@ bool selectTab(TabStrip& tabs, int index) {
 bool type(TextBox& box, const QString& text) {
     if (!box.usable() || box.readOnly)
         return false;
-    box.form().dispatch([&] { box.text = text; });
+    box.form().dispatch([&] { box.text = box.multiLine ? text : oneLine(text); });
     return true;
 }
 
@@ -87,10 +89,11 @@ bool editLabel(ListView& list, int row, const QString& text) {
     if (!list.usable() || !list.editableLabels || row < 0 || row >= list.count())
         return false;
     bool cancel = false;
-    list.form().dispatch([&] { list.AfterLabelEdit(cancel, row, text); });
+    const QString label = oneLine(text);
+    list.form().dispatch([&] { list.AfterLabelEdit(cancel, row, label); });
     // The handler may have refreshed the list: the row can be gone.
     if (!cancel && row < list.count())
-        list.setText(row, text);
+        list.setText(row, label);
     return !cancel;
 }
 
@@ -100,7 +103,12 @@ void pressMouse(ListView& list, int button) {
 }
 
 bool close(Form& form) {
-    form.dispatch([&] { form.unload(); });
+    form.dispatch([&] {
+        if (form.unloading())
+            form.CloseAgain();
+        else
+            form.unload();
+    });
     return !form.loaded();
 }
 

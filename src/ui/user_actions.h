@@ -16,13 +16,14 @@ bool click(TextBox& box);
 bool click(MenuEntry& entry); ///< a menu can be open over a hidden window
 bool choose(ComboBox& list, int index);
 bool selectTab(TabStrip& tabs, int index);
-/// The whole text as it stands after the user's edit. Read-only boxes ignore it.
+/// The whole text as it stands after the user's edit; line breaks stay out of a box of one line. Read-only
+/// boxes ignore it.
 bool type(TextBox& box, const QString& text);
 /// Returns whether the key is still to be typed: false if a handler has swallowed it.
 bool pressKey(TextBox& box, int character);
 void focus(TextBox& box);
 void tick(Timer& timer);
-/// Returns whether the label was taken.
+/// Returns whether the label was taken. It has one line.
 bool editLabel(ListView& list, int row, const QString& text);
 void pressMouse(ListView& list, int button);
 /// The close box of the window. Returns whether the window has closed.

@@ -1,8 +1,12 @@
 #include "workflows/copy_games.h"
 
-#include "interpreter/text_primitives.h"
+#include "base/file_name.h"
+#include "base/picked_path.h"
+#include "base/text_primitives.h"
 #include "interpreter/tool_commands.h"
+#include "workflows/command_arguments.h"
 #include "workflows/device_selection.h"
+#include "workflows/listed_device.h"
 
 namespace tarnwell {
 
@@ -13,7 +17,27 @@ constexpr int kTypeColumn = 2; // of the columns behind the label
 const QString kIsoFiles = QStringLiteral("ISO Files (*.iso)|*.iso|All Files (*.*)|*.*|");
 
 QString proposedFileName(const QString& game) {
-    return game.mid(game.lastIndexOf('\\') + 1) + ".iso";
+    return PermittedFileName(game.mid(game.lastIndexOf('\\') + 1) + ".iso");
+}
+
+/// A search for optical drives has emptied the menu, while the list of disks still knows them.
+void captionDisks(ui::FrmMain& frmMain) {
+    const int disks = std::min(frmMain.cmbHD.listCount(), ui::FrmMain::kHddEntries);
+    for (int i = 0; i < disks; ++i) {
+        ui::MenuEntry& entry = frmMain.mnuHDD[static_cast<std::size_t>(i)];
+        entry.caption = frmMain.cmbHD.items()[i];
+        entry.visible = true;
+    }
+}
+
+/// Tells the user that an entry names no disk. Returns whether it does.
+bool requireTarget(Shared& shared, const QString& entry) {
+    if (!entry.isEmpty())
+        return true;
+    shared.message(
+        "This disk is no longer listed, and nothing was copied. Press \"Copy to HDD\" again to see "
+        "the disks.");
+    return false;
 }
 
 } // namespace
@@ -29,7 +53,7 @@ CopyGames::CopyGames(Shared& shared, JobList& jobList) : shared_(shared), jobLis
 
 void CopyGames::copyToPc() {
     const auto game = focusedGame();
-    if (!game || severalSelected())
+    if (!game || !requireSingleGame() || !requireListedDisk(shared_, game->device))
         return;
     const auto path = shared_.ports.dialogs.saveFile({.filter = kIsoFiles,
                                                       .folder = shared_.config.text("DefaultISO"),
@@ -37,14 +61,17 @@ void CopyGames::copyToPc() {
                                                       .extension = "iso"});
     if (!path || path->isEmpty())
         return;
+    const auto file = NewNameInCodePage(shared_, *path);
+    if (!file)
+        return;
     const QString device = ActiveDeviceShort(shared_.frmMain);
-    jobList_.queueJob({.task = "Backup to PC", .source = device, .destination = *path, .name = game->name},
-                      CopyToFileCommand(device, game->name, *path), kJobAdded);
+    jobList_.queueJob({.task = "Backup to PC", .source = device, .destination = *file, .name = game->name},
+                      CopyToFileCommand(device, game->name, *file), kJobAdded);
 }
 
 void CopyGames::copyToConsole() {
     const auto game = focusedGame();
-    if (!game || severalSelected())
+    if (!game || !requireSingleGame() || !requireListedDisk(shared_, game->device))
         return;
     const auto answer = shared_.ports.dialogs.input(
         "Please enter the IP address of the PS2 console to copy the selected game to.",
@@ -55,22 +82,22 @@ void CopyGames::copyToConsole() {
     // A warning only: the copy goes on.
     if (Trim(address) == shared_.frmMain.txtIP.text)
         shared_.message("The address you entered matches the source PS2 address. Try again.");
-    if (ConsoleAnswers(shared_, address))
+    if (requireConsole(shared_, address))
         queueCopyToDevice("Copy to PS2", *game, address);
 }
 
 void CopyGames::openDiskMenu() {
-    if (severalSelected())
+    if (!requireSingleGame())
         return;
-    ui::FrmMain& frmMain = shared_.frmMain;
-    // The frame's top is not added: it lies at the top of the window.
-    frmMain.mnuBackup.popUp(frmMain.fmBrowse.left + frmMain.cmdBackupHDD.left,
-                            frmMain.cmdBackupHDD.top + frmMain.cmdBackupHDD.height);
+    captionDisks(shared_.frmMain);
+    shared_.frmMain.mnuBackup.popUpBelow(shared_.frmMain.cmdBackupHDD);
 }
 
 void CopyGames::copyToDisk(const QString& entry) {
-    if (const auto game = focusedGame())
-        queueCopyToDevice("Copy to HDD", *game, LocalDeviceShort(entry));
+    const auto game = focusedGame();
+    if (!game || !requireTarget(shared_, entry) || !requireListedDisk(shared_, game->device))
+        return;
+    queueCopyToDevice("Copy to HDD", *game, LocalDeviceShort(entry));
 }
 
 void CopyGames::queueCopyToDevice(const QString& task, const Game& game, const QString& target) {
@@ -86,18 +113,18 @@ std::optional<CopyGames::Game> CopyGames::focusedGame() const {
     if (index < 0 || !lstHD.row(index).selected)
         return std::nullopt;
     const ui::ListView::Row& row = lstHD.row(index);
-    return Game{row.text, row.subItems.value(kTypeColumn)};
+    return Game{row.text, row.subItems.value(kTypeColumn), row.tag};
 }
 
-bool CopyGames::severalSelected() {
+bool CopyGames::requireSingleGame() {
     const ui::ListView& lstHD = shared_.frmMain.lstHD;
     int selected = 0;
     for (int i = 0; i < lstHD.count(); ++i)
         selected += lstHD.row(i).selected ? 1 : 0;
     if (selected < 2)
-        return false;
+        return true;
     shared_.message("This command does not support multiple games.");
-    return true;
+    return false;
 }
 
 } // namespace tarnwell

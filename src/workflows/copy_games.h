@@ -13,9 +13,9 @@ public:
     CopyGames(Shared& shared, JobList& jobList);
 
 private:
-    /// A row of the list of games.
+    /// A row of the list of games; `device` is where it was read.
     struct Game {
-        QString name, type;
+        QString name, type, device;
     };
 
     void copyToPc();
@@ -25,7 +25,8 @@ private:
     void queueCopyToDevice(const QString& task, const Game& game, const QString& target);
 
     std::optional<Game> focusedGame() const;
-    bool severalSelected();
+    /// Tells the user that this works on one game only. Returns whether no more are selected.
+    bool requireSingleGame();
 
     Shared& shared_;
     JobList& jobList_;

@@ -1,8 +1,10 @@
 #include "workflows/delete_games.h"
 
 #include "interpreter/tool_commands.h"
-#include "queue/wait_seconds.h"
+#include "status/wait_seconds.h"
+#include "workflows/command_arguments.h"
 #include "workflows/hourglass.h"
+#include "workflows/listed_device.h"
 
 namespace tarnwell {
 
@@ -24,36 +26,36 @@ QString listed(const QStringList& names, const QString& separator) {
 DeleteGames::DeleteGames(Shared& shared, ToolChannel& channel, JobList& jobList)
     : shared_(shared), channel_(channel), jobList_(jobList) {
     ui::FrmMain& frmMain = shared_.frmMain;
-    frmMain.cmdDelete.Click = [this] { openMenu(); };
+    frmMain.cmdDelete.Click = [&frmMain] { frmMain.mnuDelete.popUpBelow(frmMain.cmdDelete); };
     frmMain.mnuDeleteNow.Click = [this] { deleteNow(); };
     frmMain.mnuDeleteQueue.Click = [this] { deleteByQueue(); };
 }
 
-void DeleteGames::openMenu() {
-    ui::FrmMain& frmMain = shared_.frmMain;
-    frmMain.mnuDelete.popUp(frmMain.fmBrowse.left + frmMain.cmdDelete.left,
-                            frmMain.fmBrowse.top + frmMain.cmdDelete.top + frmMain.cmdDelete.height);
-}
-
 void DeleteGames::deleteNow() {
     const QStringList games = selectedGames();
-    if (!confirmed("Are you sure you would like to permanently delete the following game(s)?", games))
+    if (!requireListedDisks() ||
+        !confirmed("Are you sure you would like to permanently delete the following game(s)?", games))
         return;
+    if (!requireIdleTool(shared_, channel_))
+        return;
+    bool ran = !games.isEmpty();
     {
         const Hourglass hourglass(shared_.frmMain);
         const QString device = ActiveDeviceShort(shared_.frmMain);
         for (const QString& game : games) {
-            channel_.Tarn_Execute(DeleteCommand(device, game));
+            ran = channel_.Tarn_Execute(DeleteCommand(device, game)) && ran;
             WaitSeconds(kRestSeconds, shared_.ports);
         }
         shared_.frmMain.cmdAttach.Click();
     }
-    shared_.balloon(games.value(games.size() - 1) + " deleted from HDD");
+    if (ran)
+        shared_.balloon(games.value(games.size() - 1) + " deleted from HDD");
 }
 
 void DeleteGames::deleteByQueue() {
     const QStringList games = selectedGames();
-    if (!confirmed("Are you sure you would like to add the following game(s) to the job queue for deletion?",
+    if (!requireListedDisks() ||
+        !confirmed("Are you sure you would like to add the following game(s) to the job queue for deletion?",
                    games))
         return;
     const QString device = ActiveDeviceShort(shared_.frmMain);
@@ -70,6 +72,15 @@ QStringList DeleteGames::selectedGames() const {
             names += lstHD.row(i).text;
     }
     return names;
+}
+
+bool DeleteGames::requireListedDisks() {
+    const ui::ListView& lstHD = shared_.frmMain.lstHD;
+    for (int i = 0; i < lstHD.count(); ++i) {
+        if (lstHD.row(i).selected && !requireListedDisk(shared_, lstHD.row(i).tag))
+            return false;
+    }
+    return true;
 }
 
 bool DeleteGames::confirmed(const QString& question, const QStringList& games) {

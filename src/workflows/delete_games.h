@@ -12,10 +12,10 @@ public:
     DeleteGames(Shared& shared, ToolChannel& channel, JobList& jobList);
 
 private:
-    void openMenu();
     void deleteNow();
     void deleteByQueue();
     QStringList selectedGames() const;
+    bool requireListedDisks();
     bool confirmed(const QString& question, const QStringList& games);
 
     Shared& shared_;

@@ -1,9 +1,10 @@
 #include "workflows/device_selection.h"
 
-#include "interpreter/free_space_stage.h"
-#include "interpreter/game_list_stage.h"
 #include "interpreter/tool_commands.h"
 #include "services/mod_ping.h"
+#include "status/device_display.h"
+#include "workflows/command_arguments.h"
+#include "workflows/listed_device.h"
 #include "workflows/query.h"
 
 namespace tarnwell {
@@ -71,11 +72,13 @@ void DeviceSelection::chooseLocal() {
 }
 
 void DeviceSelection::updateCopyTargets() {
-    // A disk cannot be chosen as the copy target of itself.
+    // A disk cannot be chosen as the copy target of itself. On a console none is, whatever the hidden list of
+    // disks has chosen.
     ui::FrmMain& frmMain = shared_.frmMain;
+    const int source = frmMain.optLocal.value ? frmMain.cmbHD.listIndex.get() : -1;
     const int entries = std::min(frmMain.cmbHD.listCount(), ui::FrmMain::kHddEntries);
     for (int i = 0; i < entries; ++i)
-        frmMain.mnuHDD[static_cast<std::size_t>(i)].enabled = i != frmMain.cmbHD.listIndex;
+        frmMain.mnuHDD[static_cast<std::size_t>(i)].enabled = i != source;
 }
 
 void DeviceSelection::refresh() {
@@ -86,7 +89,7 @@ void DeviceSelection::refresh() {
         shared_.message("No hard-drive selected.");
         return;
     }
-    if (frmMain.optLAN.value && !addressEntered())
+    if (frmMain.optLAN.value && !requireAddress())
         return;
     frmMain.cmdAddGame.enabled = false;
     frmMain.cmdInstall.enabled = false;
@@ -100,42 +103,45 @@ void DeviceSelection::refresh() {
     }
     if (frmMain.optLAN.value != onNetwork)
         return; // the user has changed over meanwhile
-    const AwaitedAnswer gameList(shared_.blnReadTOC);
-    if (!onNetwork || ConsoleAnswers(shared_, frmMain.txtIP.text))
-        readGameList();
+    AwaitedAnswer gameList(shared_.blnReadTOC);
+    if (!onNetwork || requireConsole(shared_, frmMain.txtIP.text))
+        readGameList(gameList);
     else
-        shared_.blnReadTOC = false;
+        gameList.drop();
 }
 
-void DeviceSelection::readGameList() {
+void DeviceSelection::readGameList(AwaitedAnswer& gameList) {
     const ui::FrmMain& frmMain = shared_.frmMain;
     const bool onNetwork = frmMain.optLAN.value;
     const QString address = frmMain.txtIP.text;
     const auto deviceChanged = [&] {
         return frmMain.optLAN.value != onNetwork || frmMain.txtIP.text != address;
     };
+    const QString asked = DeviceOnView(frmMain);
     const QString answer = channel_.Tarn_Command(GameListCommand(ActiveDeviceLong(frmMain)));
-    if (!deviceChanged())
+    if (!deviceChanged()) {
+        const ReadingGamesOf device(shared_.frmMain.lstHD, asked);
         interpreter_.ParseToolOutput(answer);
+    }
     // The games of one device must not stand there, ready to be deleted, beside the address of another.
     // Drawing the bar in the middle of the reading lets events in as well.
     if (deviceChanged()) {
         resetDevice();
-        shared_.blnReadTOC = false;
+        gameList.drop();
     }
     // After a failed job the answer was taken for that job's. The question must not stay open: the progress
     // of the next job would be withheld as part of the answer.
     if (shared_.jobRunning())
-        shared_.blnReadTOC = false;
+        gameList.drop();
 }
 
 void DeviceSelection::shutDownConsole() {
     ui::FrmMain& frmMain = shared_.frmMain;
     if (!requireTool(shared_))
         return;
-    if (frmMain.optLAN.value && !addressEntered())
+    if (frmMain.optLAN.value && !requireAddress())
         return;
-    if (!ConsoleAnswers(shared_, frmMain.txtIP.text))
+    if (!requireConsole(shared_, frmMain.txtIP.text))
         return;
     const QString command = PowerOffCommand(frmMain.txtIP.text);
     frmMain.txtCommand.text = command;
@@ -170,7 +176,7 @@ void DeviceSelection::chooseDiskAgain(int index) {
         cmbHD.listIndex = index;
 }
 
-bool DeviceSelection::addressEntered() {
+bool DeviceSelection::requireAddress() {
     if (!shared_.frmMain.txtIP.text.get().isEmpty())
         return true;
     shared_.message("Please enter the IP address of your PlayStation2.");
@@ -198,7 +204,7 @@ QString ConsoleNotFound(const QString& address) {
            "2. The IP address you entered matches the IP address configured in mc0:SYS-CONF/IPCONFIG.DAT";
 }
 
-bool ConsoleAnswers(Shared& shared, const QString& address) {
+bool requireConsole(Shared& shared, const QString& address) {
     if (PingConsole(address, shared.ports.ping) != kNoAnswer)
         return true;
     shared.message(ConsoleNotFound(address) + "\r\n");

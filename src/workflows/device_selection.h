@@ -5,6 +5,8 @@
 
 namespace tarnwell {
 
+class AwaitedAnswer;
+
 /// The choice between a networked console and a local disk, the loading of its game list, and the shutdown of
 /// the console. A device is active from a refresh on, until the mode or the address changes or the console is
 /// shut down; a mere selection in the disk list leaves the old game list on view.
@@ -23,8 +25,8 @@ private:
 
     void queryDisks();
     void chooseDiskAgain(int index);
-    void readGameList();
-    bool addressEntered();
+    void readGameList(AwaitedAnswer& gameList);
+    bool requireAddress();
 
     void resetDevice();
     void disableDeviceGroup();
@@ -37,8 +39,8 @@ private:
 /// What to check when no console answers at the address.
 QString ConsoleNotFound(const QString& address);
 
-/// Whether a console answers at the address; tells the user if none does.
-bool ConsoleAnswers(Shared& shared, const QString& address);
+/// Tells the user that no console answers at the address. Returns whether one does.
+bool requireConsole(Shared& shared, const QString& address);
 
 /// At the end of work: reads the list of games again, unless the console no longer answers.
 void RefreshAfterWork(Shared& shared);

@@ -1,9 +1,10 @@
 #include "workflows/export_game_list.h"
 
-#include "app/replace_file.h"
-#include "interpreter/text_primitives.h"
+#include "base/replace_file.h"
+#include "base/text_primitives.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 namespace tarnwell {
 
@@ -32,6 +33,30 @@ QString withWordsReplaced(QString line, const QStringList& subItems) {
     return line.replace(QLatin1String("%tab"), QLatin1String("\t"));
 }
 
+/// An old file is out of the way at once, but not lost before a new one has come. Where it cannot be moved it
+/// stays.
+class OldFile {
+public:
+    explicit OldFile(const QString& path)
+        : path_(path), moved_(QFileInfo(path).isFile() && QFile::rename(path, aside())) {}
+    ~OldFile() {
+        if (!moved_)
+            return;
+        if (QFileInfo::exists(path_))
+            QFile::remove(aside());
+        else
+            QFile::rename(aside(), path_);
+    }
+    OldFile(const OldFile&) = delete;
+    OldFile& operator=(const OldFile&) = delete;
+
+private:
+    QString aside() const { return path_ + ".old"; }
+
+    const QString path_;
+    const bool moved_;
+};
+
 } // namespace
 
 ExportGameList::ExportGameList(Shared& shared) : shared_(shared) {
@@ -47,8 +72,7 @@ void ExportGameList::exportList() {
                                         .askBeforeOverwriting = true});
     if (!path || path->isEmpty())
         return;
-    // The dialog has asked: the old file goes now, whatever becomes of the new one.
-    QFile::remove(*path);
+    const OldFile old(*path);
     const auto format = dialogs.input(kFormatPrompt, "Export Game List", QString());
     TryToReplaceFile(*path, listText(format.value_or(QString())).toLocal8Bit());
 }

@@ -1,7 +1,7 @@
 #include "workflows/free_space.h"
 
-#include "app/fault.h"
-#include "interpreter/text_primitives.h"
+#include "base/fault.h"
+#include "base/text_primitives.h"
 
 #include <limits>
 
@@ -32,7 +32,7 @@ qint32 RoundUp128(qint32 size) {
     return rest > 0 ? size - rest + kUnitMegabytes : size - rest;
 }
 
-bool EnoughFreeSpace(Shared& shared) {
+bool requireFreeSpace(Shared& shared) {
     const QString available = shared.frmMain.picDiskSpace.tag;
     const qint32 needed = RoundUp128(sizeOfSource(shared.frmMain.txtGameSize.tag));
     if (Val(available) >= needed)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/shared.h"
+#include "base/shared.h"
 
 namespace tarnwell {
 
@@ -8,8 +8,8 @@ namespace tarnwell {
 /// multiple. One that a 32-bit number cannot hold is a Fault.
 qint32 RoundUp128(qint32 size);
 
-/// Whether the game of the install page fits on the active device; if it does not, tells the user how much it
-/// needs. A source whose size was never read is a Fault.
-bool EnoughFreeSpace(Shared& shared);
+/// Tells the user that the game of the install page does not fit on the active device, and how much it needs.
+/// Returns whether it fits. A source whose size was never read is a Fault.
+bool requireFreeSpace(Shared& shared);
 
 } // namespace tarnwell

@@ -1,9 +1,9 @@
 #include "workflows/install_now.h"
 
-#include "queue/status_window.h"
-#include "queue/work_under_way.h"
-#include "services/mod_tray_icon.h"
-#include "tool/stop_tool.h"
+#include "base/mod_tray_icon.h"
+#include "work/one_run.h"
+#include "work/status_window.h"
+#include "work/work_under_way.h"
 #include "workflows/device_selection.h"
 #include "workflows/free_space.h"
 #include "workflows/install_source.h"
@@ -11,6 +11,15 @@
 #include <QScopeGuard>
 
 namespace tarnwell {
+
+namespace {
+
+QString lastLine(QString text) {
+    const QStringList lines = text.replace('\r', '\n').split('\n', Qt::SkipEmptyParts);
+    return lines.value(lines.size() - 1).trimmed();
+}
+
+} // namespace
 
 InstallNow::InstallNow(Shared& shared, ToolChannel& channel, cStdIO& StdIO, GuiSwitch& guiSwitch,
                        CompletionActions& completionActions, StatusServer& statusServer)
@@ -20,28 +29,30 @@ InstallNow::InstallNow(Shared& shared, ToolChannel& channel, cStdIO& StdIO, GuiS
 }
 
 void InstallNow::install() {
-    if (!requireTool(shared_) || !SourceChosen(shared_))
+    const OneRun run(shared_.runUnderWay);
+    if (!run || !requireTool(shared_) || !requireSource(shared_))
         return;
     if (shared_.frmMain.txtGameName.text.get().isEmpty()) {
         shared_.message("Please enter a name for the game to install.");
         return;
     }
-    if (!EnoughFreeSpace(shared_))
+    if (!requireFreeSpace(shared_))
+        return;
+    if (!requireIdleTool(shared_, channel_))
         return;
     const Installation game = ReadInstallPage(shared_.frmMain);
+    QString failure;
     shared_.balloon("Installing " + game.name);
-    guiSwitch_.EnableGUI(false);
     {
-        const auto usableAgain = qScopeGuard([this] {
-            shared_.blnInstallRunning = false;
-            guiSwitch_.EnableGUI(true);
-        });
+        const PauseOfMainWindow pause(guiSwitch_);
         openStatus(game.name);
         shared_.frmMain.cmdMinimize.Click();
-        run(game);
+        failure = runTool(game);
         CloseStatusWindowIfWanted(shared_);
     }
     finish(game);
+    if (!failure.isEmpty())
+        shared_.message(failure);
 }
 
 void InstallNow::openStatus(const QString& name) {
@@ -53,26 +64,40 @@ void InstallNow::openStatus(const QString& name) {
     frmStatus->show();
 }
 
-void InstallNow::run(const Installation& game) {
+QString InstallNow::runTool(const Installation& game) {
     const WorkUnderWay work(shared_.ports);
+    const auto runEnds = qScopeGuard([this] { shared_.blnInstallRunning = false; });
     shared_.blnInstallRunning = true;
     shared_.blnJobDone = false;
     shared_.blnJobStopped = false;
+    // A question that lost its connection may still be open, and would take the progress for its answer.
+    shared_.blnReadTOC = false;
     shared_.lJobStartTick = shared_.ports.clock.tickCount();
     const ServerDuringWork server(statusServer_);
     shared_.balloon("Installing [" + game.name + "] to [" + game.device + "]");
     channel_.Tarn_Command(InstallCommand(game));
     if (shared_.blnInstallRunning && shared_.blnJobStopped)
-        WaitForStoppedTool(StdIO_, shared_.ports.pump);
+        WaitForCancelledTool(shared_, StdIO_);
+    QString failure = failureOf(game);
     shared_.blnInstallRunning = false;
     resetInstallPage(shared_.frmMain);
+    return failure;
+}
+
+/// The tool's 100 percent clears the flag of the run: what ends without it has not worked.
+QString InstallNow::failureOf(const Installation& game) const {
+    if (!shared_.blnInstallRunning || shared_.blnJobStopped)
+        return {};
+    const QString words = lastLine(shared_.frmMain.txtOutput.text);
+    return game.name + " was not installed completely. " +
+           (words.isEmpty() ? "tarnwell.exe did not say why." : "The last words of tarnwell.exe: " + words);
 }
 
 void InstallNow::finish(const Installation& game) {
     TrayTip(shared_.ports.tray, shared_.title);
     if (!shared_.blnJobStopped) {
         shared_.balloon("Installation of " + game.name + " complete!");
-        completionActions_.afterInstall();
+        completionActions_.turnOffWhatIsTicked();
     }
     RefreshAfterWork(shared_);
 }

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "app/enable_gui.h"
 #include "interpreter/tool_commands.h"
-#include "queue/completion_actions.h"
 #include "services/status_server.h"
 #include "tool/tool_channel.h"
+#include "work/completion_actions.h"
+#include "work/enable_gui.h"
 
 namespace tarnwell {
 
@@ -17,7 +17,9 @@ public:
 private:
     void install();
     void openStatus(const QString& name);
-    void run(const Installation& game);
+    /// Returns what to tell the user of an install that failed, nothing of one that worked or was cancelled.
+    QString runTool(const Installation& game);
+    QString failureOf(const Installation& game) const;
     void finish(const Installation& game);
 
     Shared& shared_;

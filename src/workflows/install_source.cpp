@@ -1,7 +1,9 @@
 #include "workflows/install_source.h"
 
-#include "app/fault.h"
+#include "base/fault.h"
+#include "base/picked_path.h"
 #include "interpreter/tool_commands.h"
+#include "workflows/command_arguments.h"
 #include "workflows/query.h"
 
 namespace tarnwell {
@@ -80,6 +82,7 @@ void InstallSource::readDisc() {
     ui::ComboBox& cmbOptical = shared_.frmMain.cmbOptical;
     if (cmbOptical.listIndex == -1 || !requireTool(shared_))
         return;
+    forgetGame();
     const AwaitedAnswer discInfo(shared_.blnDiscInfo);
     askForDiscInfo(DriveInfoCommand(ResolveOpticalDrive(shared_.frmMain, cmbOptical.text())));
 }
@@ -91,14 +94,15 @@ void InstallSource::browse() {
                                                       .folder = shared_.config.text("DefaultISO"),
                                                       .extension = "*.iso",
                                                       .mustExist = true});
-    if (path && !path->isEmpty())
-        readImage(*path);
-    else
+    if (!path || path->isEmpty())
         forgetImage();
+    else if (const auto name = NameInCodePage(shared_, *path))
+        readImage(*name);
 }
 
 void InstallSource::readImage(const QString& path) {
     clearCompatibilityFlags(shared_.frmMain);
+    forgetGame();
     ui::TextBox& txtISO = shared_.frmMain.txtISO;
     txtISO.text = path;
     // The end of a long path, the name of the file, is what the user wants to see of it.
@@ -122,6 +126,16 @@ void InstallSource::forgetImage() {
     frmMain.cmdCompat.enabled = false;
 }
 
+/// One source must not be installed with what was read from another, if it turns out that it cannot be read.
+void InstallSource::forgetGame() {
+    ui::FrmMain& frmMain = shared_.frmMain;
+    frmMain.txtGameName.text = QString();
+    frmMain.txtGameStartup.text = QString();
+    frmMain.txtGameSize.text = QString();
+    frmMain.txtGameSize.tag = QString();
+    frmMain.lblDVD9.visible = false;
+}
+
 void InstallSource::askForDiscInfo(const QString& command) {
     const Hourglass hourglass(shared_.frmMain);
     const QString answer = channel_.Tarn_Command(command);
@@ -136,20 +150,18 @@ void InstallSource::forgetQuestion() {
 }
 
 void InstallSource::openFlagsMenu() {
-    const ui::FrmMain& frmMain = shared_.frmMain;
-    // The frame's top is not added: it lies at the top of the window.
-    shared_.frmMain.mnuCompat.popUp(frmMain.fmInstall.left + frmMain.cmdCompat.left,
-                                    frmMain.cmdCompat.top + frmMain.cmdCompat.height);
+    shared_.frmMain.mnuCompat.popUpBelow(shared_.frmMain.cmdCompat);
 }
 
 void InstallSource::pressKeyInName(int& key) {
     if (key != ui::TextBox::kEnterKey)
         return;
     key = 0;
-    shared_.frmMain.cmdAddGame.Click();
+    if (shared_.frmMain.cmdAddGame.usable())
+        shared_.frmMain.cmdAddGame.Click();
 }
 
-bool SourceChosen(Shared& shared) {
+bool requireSource(Shared& shared) {
     const ui::FrmMain& frmMain = shared.frmMain;
     if (frmMain.optISO.value && frmMain.txtISO.text.get().isEmpty()) {
         shared.message("Please select an ISO to install.");

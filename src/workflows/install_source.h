@@ -19,6 +19,7 @@ private:
     void browse();
     void readImage(const QString& path);
     void forgetImage();
+    void forgetGame();
     void askForDiscInfo(const QString& command);
     void forgetQuestion();
     void openFlagsMenu();
@@ -29,8 +30,8 @@ private:
     OutputInterpreter& interpreter_;
 };
 
-/// Whether an image or a drive is chosen; asks the user for it if not.
-bool SourceChosen(Shared& shared);
+/// Asks the user for an image or a drive. Returns whether one is chosen.
+bool requireSource(Shared& shared);
 
 /// The game that the page describes, for the selected device. A drive that the last query does not know is a
 /// Fault.

@@ -1,9 +1,12 @@
 #include "workflows/make_iso.h"
 
-#include "app/fault.h"
-#include "interpreter/text_primitives.h"
+#include "base/fault.h"
+#include "base/file_name.h"
+#include "base/picked_path.h"
+#include "base/text_primitives.h"
 #include "interpreter/tool_commands.h"
 #include "tool/tool_channel.h"
+#include "workflows/command_arguments.h"
 
 #include <QFile>
 
@@ -33,16 +36,19 @@ void MakeIso::makeIso() {
     }
     const auto path = shared_.ports.dialogs.saveFile({.filter = kImageKinds,
                                                       .folder = shared_.config.text("DefaultISO"),
-                                                      .fileName = name + ".iso",
+                                                      .fileName = PermittedFileName(name + ".iso"),
                                                       .extension = "*.iso",
                                                       .askBeforeOverwriting = true});
     if (!path || path->isEmpty())
         return;
+    const auto file = NewNameInCodePage(shared_, *path);
+    if (!file)
+        return;
     // The dialog has asked. A file that cannot be deleted is left for the tool to complain about.
-    QFile::remove(*path);
+    QFile::remove(*file);
     const QString drive = chosenDrive();
-    jobList_.queueJob({.task = "Make ISO", .source = drive, .destination = *path, .name = name},
-                      MakeImageCommand(drive, *path), kJobAdded);
+    jobList_.queueJob({.task = "Make ISO", .source = drive, .destination = *file, .name = name},
+                      MakeImageCommand(drive, *file), kJobAdded);
 }
 
 QString MakeIso::chosenDrive() const {

@@ -5,11 +5,11 @@
 namespace tarnwell {
 
 void RunQuery(bool& flag, ToolChannel& channel, OutputInterpreter& interpreter) {
-    const AwaitedAnswer answer(flag);
+    AwaitedAnswer answer(flag);
     interpreter.ParseToolOutput(channel.Tarn_Command(QueryCommand()));
     // Whatever was made of the answer, no other will come: text about a lost connection is read as no list at
     // all.
-    flag = false;
+    answer.drop();
 }
 
 } // namespace tarnwell

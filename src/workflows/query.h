@@ -15,8 +15,10 @@ public:
     }
     ~AwaitedAnswer() {
         if (std::uncaught_exceptions() > exceptions_)
-            flag_ = false;
+            drop();
     }
+    /// No output is to be taken for the answer any more.
+    void drop() { flag_ = false; }
     AwaitedAnswer(const AwaitedAnswer&) = delete;
     AwaitedAnswer& operator=(const AwaitedAnswer&) = delete;
 

@@ -1,8 +1,9 @@
 #include "workflows/rename_game.h"
 
-#include "interpreter/text_primitives.h"
+#include "base/text_primitives.h"
 #include "interpreter/tool_commands.h"
 #include "workflows/hourglass.h"
+#include "workflows/listed_device.h"
 
 namespace tarnwell {
 
@@ -12,17 +13,20 @@ RenameGame::RenameGame(Shared& shared, ToolChannel& channel, const GuiSwitch& gu
         // Never taken over by the list itself: it is read anew before this ends, and then the row can be
         // another game's.
         cancel = true;
-        if (accepts(shared_.frmMain.lstHD.row(row).text, newName))
+        if (accepts(row, newName) && requireIdleTool(shared_, channel_))
             rename(row, newName);
     };
 }
 
-bool RenameGame::accepts(const QString& oldName, const QString& newName) {
+bool RenameGame::accepts(int row, const QString& newName) {
     // A job that deletes sets no flag, and the list stays usable. Read anew, it would make Install Now usable
     // too, in the middle of the queue.
     if (Trim(newName).isEmpty() || shared_.jobRunning() || guiSwitch_.paused())
         return false;
-    if (newName.toLower() != oldName.toLower())
+    const ui::ListView::Row& game = shared_.frmMain.lstHD.row(row);
+    if (!requireListedDisk(shared_, game.tag))
+        return false;
+    if (newName.toLower() != game.text.toLower())
         return true;
     shared_.message(
         "This command does not work for changing the case of character(s) in a game name. The name "

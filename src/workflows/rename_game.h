@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/enable_gui.h"
 #include "tool/tool_channel.h"
+#include "work/enable_gui.h"
 
 namespace tarnwell {
 
@@ -11,7 +11,7 @@ public:
     RenameGame(Shared& shared, ToolChannel& channel, const GuiSwitch& guiSwitch);
 
 private:
-    bool accepts(const QString& oldName, const QString& newName);
+    bool accepts(int row, const QString& newName);
     void rename(int row, const QString& newName);
 
     Shared& shared_;

@@ -1,9 +1,9 @@
-/// The program on a desktop of the test's own. It does what the lines on its input say, as a user or the
-/// logic would, and answers each with a line.
+/// desktop_helper FOLDER: the program of that folder on a desktop of the test's own. It does what the lines
+/// on its input say, as a user or the logic would, and answers each with a line.
 
-#include "app/desktop_program.h"
+#include "app/desktop/desktop_program.h"
+#include "base/mod_tray_icon.h"
 #include "platform/native.h"
-#include "services/mod_tray_icon.h"
 #include "ui/user_actions.h"
 
 #include <QApplication>
@@ -11,7 +11,6 @@
 #include <QMenu>
 #include <QScreen>
 #include <QSocketNotifier>
-#include <QTemporaryDir>
 
 #include <cstdio>
 #include <iostream>
@@ -83,9 +82,8 @@ private:
     DesktopProgram& program_;
 };
 
-int runProgram() {
-    const QTemporaryDir folder;
-    DesktopProgram program{QtSystemFolders(folder.path(), folder.path())};
+int runProgram(const QString& folder) {
+    DesktopProgram program{QtSystemFolders(folder, folder)};
     Servant servant(program);
     QSocketNotifier input(0, QSocketNotifier::Read);
     QObject::connect(&input, &QSocketNotifier::activated, [&] {
@@ -106,10 +104,12 @@ int runProgram() {
 } // namespace tarnwell
 
 int main(int argc, char** argv) {
-    if (argc == 2 && qstrcmp(argv[1], "wake-lock") == 0) {
+    if (argc != 2)
+        return 2;
+    if (qstrcmp(argv[1], "wake-lock") == 0) {
         const QCoreApplication application(argc, argv);
         return tarnwell::askForWakeLock();
     }
     const QApplication application(argc, argv);
-    return tarnwell::runProgram();
+    return tarnwell::runProgram(QString::fromLocal8Bit(argv[1]));
 }

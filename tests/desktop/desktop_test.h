@@ -13,8 +13,8 @@ protected:
         environment.insert("DISPLAY", display.name());
         environment.insert("QT_QPA_PLATFORM", "xcb");
         environment.insert("DBUS_SESSION_BUS_ADDRESS", bus.address());
-        program =
-            std::make_unique<BackgroundProgram>(builtProgram("desktop_helper"), QStringList(), environment);
+        program = std::make_unique<BackgroundProgram>(builtProgram("desktop_helper"),
+                                                      QStringList(programFolder.path()), environment);
         EXPECT_TRUE(becomes("window", "shown"));
     }
 
@@ -32,6 +32,8 @@ protected:
     MessageBus bus;
     Display display;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    /// The test's, because the program is ended without a chance to tidy up.
+    QTemporaryDir programFolder;
     std::unique_ptr<BackgroundProgram> program;
 };
 

@@ -63,6 +63,16 @@ TEST_F(OnStatusNotifierHost, BalloonsAreShownInTheirOrder) {
     EXPECT_EQ(host.balloons[1].text, "Installing [Salt & Sand] to [hdd1:]");
 }
 
+TEST_F(OnStatusNotifierHost, TheTipGoesOnShowingTheProgressWhenABalloonComes) {
+    tell("tip 42%|Speed: 3.50 MB/sec");
+    EXPECT_TRUE(tipBecomes("42%\r\nSpeed: 3.50 MB/sec"));
+    tell("balloon Installing Salt & Sand");
+    ASSERT_TRUE(pumpUntil([this] { return host.balloons.size() == 1; }));
+    EXPECT_EQ(host.tip(), "42%\r\nSpeed: 3.50 MB/sec");
+    tell("tip 43%|Speed: 3.50 MB/sec");
+    EXPECT_TRUE(tipBecomes("43%\r\nSpeed: 3.50 MB/sec")) << host.tip().toStdString();
+}
+
 TEST_F(OnStatusNotifierHost, BringsAHiddenProgramBack) {
     tell("hide");
     EXPECT_TRUE(becomes("window", "hidden"));

@@ -1,31 +1,12 @@
 #include "end_to_end/whole_program.h"
+#include "support/full_disk.h"
 
-#include <csignal>
-#include <sys/resource.h>
+#include <QDir>
 
 namespace tarnwell::test {
 namespace {
 
-/// While this lives, no file of this process can take in more than a few bytes, as on a disk that is full.
-class FullDisk {
-public:
-    FullDisk() : signal_(std::signal(SIGXFSZ, SIG_IGN)) {
-        getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit full{kBytesLeft, before_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &full);
-    }
-    ~FullDisk() {
-        setrlimit(RLIMIT_FSIZE, &before_);
-        std::signal(SIGXFSZ, signal_);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-    static constexpr rlim_t kBytesLeft = 20;
-    void (*const signal_)(int);
-    rlimit before_{};
-};
+class ListOnAFullDisk : public WholeProgram {};
 
 class SettingsOnAFullDisk : public WholeProgram {
 protected:
@@ -54,6 +35,25 @@ TEST_F(SettingsOnAFullDisk, TheProgramsOwnKeepTheirOldValues) {
         user.waitUntilIdle();
         EXPECT_TRUE(stored("config.cfg").contains("StatusServer=1")) << "with room again it is stored";
     });
+}
+
+TEST_F(ListOnAFullDisk, TheOldOneStandsAsItWas) {
+    const QString file = bench.path("games.txt");
+    write(file, "an old list");
+    play([&](User& user) {
+        openDisk(user);
+        user.click("optBrowse");
+        user.click("cmdSaveList");
+        user.pickFile(file);
+        user.agree();
+        {
+            const FullDisk full;
+            user.answer("%type");
+            user.waitUntilIdle();
+        }
+    });
+    EXPECT_EQ(contents(file), "an old list");
+    EXPECT_EQ(QDir(bench.folder()).entryList({"games*"}), QStringList("games.txt"));
 }
 
 TEST_F(SettingsOnAFullDisk, TheToolsFileStandsAsItWasAndTheUserIsTold) {

@@ -19,7 +19,7 @@ protected:
         other.setProcessEnvironment(environment);
         other.setStandardOutputFile(QProcess::nullDevice());
         other.start(QCoreApplication::applicationFilePath(),
-                    {"--gtest_also_run_disabled_tests", "--gtest_filter=KilledProgram.DISABLED_*"});
+                    {"--gtest_also_run_disabled_tests", "--gtest_filter=ProgramToBeKilled.DISABLED_*"});
         ASSERT_TRUE(other.waitForStarted());
         EXPECT_TRUE(comesTrue([&] { return bench.log().contains("> inject_cd"); }));
         other.kill();
@@ -29,14 +29,14 @@ protected:
 };
 
 /// What is killed: to be run by the test below in a process of its own, in the folder that the environment
-/// names.
-TEST_F(KilledProgram, DISABLED_InstallsAGame) {
+/// names. It has no bench, which would outlive it.
+TEST(ProgramToBeKilled, DISABLED_InstallsAGame) {
     const QString folder = qEnvironmentVariable(kFolder);
     ASSERT_FALSE(folder.isEmpty());
     DesktopProgram program{QtSystemFolders(folder, folder)};
     EXPECT_EQ(tour::runWithUser(program,
                                 [&](User& user) {
-                                    openDisk(user);
+                                    WholeProgram::openDisk(user);
                                     user.click("cmdISO");
                                     user.pickFile(folder + "/game.iso");
                                     user.waitUntilIdle();
@@ -47,7 +47,7 @@ TEST_F(KilledProgram, DISABLED_InstallsAGame) {
                                     user.click("frmSettings.chkStatusServer");
                                     user.click("frmSettings.cmdExitNoSave");
                                     user.waitUntilIdle();
-                                    startInstall(user);
+                                    WholeProgram::startInstall(user);
                                     user.waitUntilIdle();
                                 }),
               "");

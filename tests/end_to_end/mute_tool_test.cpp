@@ -28,6 +28,7 @@ protected:
 TEST_F(MuteTool, IsWaitedForToItsEnd) {
     play([&](User& user) {
         install(user, "sleep 1; touch \"$(dirname \"$0\")/at its end\"");
+        EXPECT_TRUE(user.confirmMessage().startsWith("HARVEST was not installed completely."));
         user.waitUntilIdle();
         EXPECT_TRUE(QFile::exists(bench.path("at its end")));
         expectUsable(user);

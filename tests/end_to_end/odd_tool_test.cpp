@@ -43,8 +43,10 @@ TEST_F(OddTool, OneThatCannotBeStartedIsGivenUp) {
     QFile::rename(bench.tool(), bench.path("elsewhere"));
     write(bench.tool(), "no program");
     play([&](User& user) {
+        user.click("chkOutput");
         user.click("optLocal");
         EXPECT_EQ(user.confirmMessage(), kUnknownError);
+        EXPECT_TRUE(user.text("txtOutput").startsWith(bench.tool() + " could not be started: "));
         EXPECT_EQ(user.confirmMessage(), "No PS2 formatted HDD's were found on your system.");
         user.waitUntilIdle();
         QFile::remove(bench.tool());
@@ -85,6 +87,7 @@ TEST_F(OddTool, OneThatDiesInTheMiddleOfAnInstallLeavesNoHalfGame) {
         user.waitUntilIdle();
         behave("inject_cd", "exit_at_percent = 40");
         startInstall(user);
+        EXPECT_TRUE(user.confirmMessage().startsWith("HARVEST was not installed completely."));
         user.waitUntilIdle();
         expectUsable(user);
     });

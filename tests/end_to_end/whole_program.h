@@ -19,17 +19,18 @@ bool comesTrue(const std::function<bool()>& condition);
 /// The program as people run it: its windows, its ports, a tool that is a process of its own. A scenario
 /// plays the user.
 class WholeProgram : public testing::Test {
+public:
+    // What users do again and again.
+    static void openDisk(User& user);
+    static void openConsole(User& user);
+    static void startInstall(User& user);
+    static void waitForPercent(User& user, int percent);
+
 protected:
     explicit WholeProgram(const QString& programFolder = "program") : bench(programFolder) {}
 
     void play(const std::function<void(User&)>& scenario) const;
-
-    // What users do again and again.
-    static void openDisk(User& user);
-    static void openConsole(User& user);
     void pickImage(User& user, const QString& image) const;
-    static void startInstall(User& user);
-    static void waitForPercent(User& user, int percent);
 
     /// An image of a game, made by another program where there is one. It starts `SLUS_999.99` and holds
     /// bytes of all values.

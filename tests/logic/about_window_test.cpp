@@ -41,6 +41,13 @@ TEST_F(About, ThanksTypeThemselvesLetterByLetter) {
     EXPECT_EQ(window.txtAbout.selectionStart, typed().size());
 }
 
+TEST_F(About, WhatWaitsIsServedBeforeTheFirstLetter) {
+    QString seen = "not looked";
+    ports.pump.queue([&] { seen = typed(); });
+    ui::click(frmMain.cmdAbout);
+    EXPECT_EQ(seen, "");
+}
+
 TEST_F(About, TheTextHasTheFocusWhileItIsTyped) {
     int focused = 0;
     window.txtAbout.focusWanted.connect([&] { ++focused; });

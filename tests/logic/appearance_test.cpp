@@ -2,6 +2,7 @@
 #include "support/program_test.h"
 
 #include <gmock/gmock.h>
+#include <limits>
 
 namespace tarnwell::test {
 namespace {
@@ -28,7 +29,7 @@ protected:
 
     /// As the window of settings does when it is loaded.
     void load() {
-        frmSettings.chkColors.value = program.shared().config.number("UseColor");
+        frmSettings.chkColors.value = program.shared().config.wholeNumber("UseColor");
         appearance.load();
     }
     void storeColors(qint32 fore, qint32 back) {
@@ -42,7 +43,7 @@ protected:
             all.insert(all.end(), form->controls().begin(), form->controls().end());
         return all;
     }
-    std::vector<ui::Form*> forms() { return {&frmMain, &frmSettings, frmStatus.operator->()}; }
+    std::vector<ui::Form*> forms() { return {&frmMain, &frmSettings, &*frmStatus}; }
     static std::string nameOf(const ui::Control& control) {
         return (control.form().name + '.' + control.name).toStdString();
     }
@@ -99,6 +100,25 @@ TEST_F(AppearanceTest, AFractionalSizeIsAppliedAsAWholeOne) {
     EXPECT_EQ(frmMain.cmdAttach.font.get(), (ui::Font{"Tahoma", 8, true, false}));
 }
 
+TEST_F(AppearanceTest, AFractionalSizeGoesToTheNearestWholeOneAndHalvesToTheEven) {
+    for (const auto& [text, size] : {std::pair{"8.75", 9}, {"8.5", 8}, {"9.5", 10}}) {
+        store("Font", QString("Tahoma,%1,False,False,").arg(text));
+        load();
+        EXPECT_EQ(frmMain.cmdAttach.font.get(), (ui::Font{"Tahoma", static_cast<double>(size)})) << text;
+    }
+}
+
+TEST_F(AppearanceTest, AStatusWindowThatWasClosedGetsItsLooksAgain) {
+    storeColors(kNavy, kCream);
+    store("Font", "Tahoma,9,False,True,");
+    load();
+    frmStatus->unload();
+    EXPECT_EQ(frmStatus.untouched().backColor.get(), std::nullopt);
+    frmStatus->show();
+    expectColors(kNavy, kCream);
+    EXPECT_EQ(frmStatus->lblJob.font.get(), (ui::Font{"Tahoma", 9, false, true}));
+}
+
 TEST_F(AppearanceTest, AFontWithTooFewFieldsIsToldAndTheColoursFollow) {
     storeColors(kNavy, kCream);
     for (const char* value : {"Tahoma", "Tahoma,9", "Tahoma,9,True"}) {
@@ -109,6 +129,16 @@ TEST_F(AppearanceTest, AFontWithTooFewFieldsIsToldAndTheColoursFollow) {
     EXPECT_EQ(ports.dialogs.messages.size(), 3U);
     expectFontUntouched();
     expectColors(kNavy, kCream);
+}
+
+TEST_F(AppearanceTest, TheWordsOfAFontMayBeNumbersAndStandInAnyCase) {
+    for (const char* value : {"Tahoma,9,1,0,", "Tahoma,9,-1,0.0,", "Tahoma,9,TRUE,false,"}) {
+        store("Font", value);
+        frmMain.cmdAttach.font = std::nullopt;
+        load();
+        EXPECT_EQ(frmMain.cmdAttach.font.get(), (ui::Font{"Tahoma", 9, true, false})) << value;
+    }
+    EXPECT_TRUE(ports.dialogs.messages.empty());
 }
 
 TEST_F(AppearanceTest, FieldsThatMakeNoSenseAreToldToo) {
@@ -129,6 +159,17 @@ TEST_F(AppearanceTest, AnEmptyFieldMeansNoFont) {
         expectFontUntouched();
     }
     EXPECT_TRUE(ports.dialogs.messages.empty());
+}
+
+TEST_F(AppearanceTest, TheLargestAndTheSmallestSizeAreTaken) {
+    for (const int size : {1, 2160}) {
+        store("Font", QString("Tahoma,%1,False,False,").arg(size));
+        load();
+        EXPECT_EQ(frmMain.cmdAttach.font.get(), (ui::Font{"Tahoma", static_cast<double>(size)}));
+    }
+    store("Font", "Tahoma,2160.25,False,False,");
+    load();
+    EXPECT_THAT(lastMessage().toStdString(), HasSubstr("2160.25"));
 }
 
 TEST_F(AppearanceTest, ASizeThatNoFontHasIsPassedOver) {
@@ -171,6 +212,18 @@ TEST_F(AppearanceTest, WhatIsNoColourIsPassedOver) {
     EXPECT_TRUE(ports.dialogs.messages.empty());
 }
 
+TEST_F(AppearanceTest, MixturesAndTheColoursOfTheSystemAreColoursAndNothingBeside) {
+    constexpr qint32 kFirstOfSystem = std::numeric_limits<qint32>::min(), kLastOfSystem = kFirstOfSystem + 24;
+    for (const qint32 color : {0xFFFFFF, kFirstOfSystem, kLastOfSystem}) {
+        storeColors(color, color);
+        load();
+        expectColors(color, color);
+    }
+    storeColors(0x1000000, kLastOfSystem + 1);
+    load();
+    expectColors(kLastOfSystem, kLastOfSystem);
+}
+
 TEST_F(AppearanceTest, ColoursAreTurnedOnAndOffByTheSwitch) {
     storeColors(kNavy, kCream);
     store("UseColor", "0");
@@ -196,6 +249,16 @@ TEST_F(AppearanceTest, TurningOnColoursThatAreNotSetAppliesNone) {
     ui::click(frmSettings.chkColors);
     expectColors(std::nullopt, std::nullopt);
     EXPECT_TRUE(frmSettings.cmdForecolor.enabled);
+}
+
+TEST_F(AppearanceTest, BlackAndAnotherColourAreTurnedOnByTheSwitch) {
+    for (const auto& [fore, back] : {std::pair{0, kCream}, {kNavy, 0}}) {
+        storeColors(fore, back);
+        store("UseColor", "0");
+        load();
+        ui::click(frmSettings.chkColors);
+        expectColors(fore, back);
+    }
 }
 
 TEST_F(AppearanceTest, AChosenColourIsAppliedAndStoredAtOnce) {
@@ -227,6 +290,12 @@ TEST_F(AppearanceTest, AChosenFontIsStoredWithItsFractionAndAppliedWithout) {
     EXPECT_EQ(stored("Font"), "DejaVu Serif,8.25,True,False,");
     EXPECT_EQ(frmSettings.cmdFont.font.get(), (ui::Font{"DejaVu Serif", 8, true, false}));
     EXPECT_EQ(frmStatus->cmdStop.font.get(), frmSettings.cmdFont.font.get());
+}
+
+TEST_F(AppearanceTest, AChosenSizeGoesToTheNearestWholeOne) {
+    ports.dialogs.chooseFontAnswers = {ui::Font{"DejaVu Serif", 8.75}};
+    ui::click(frmSettings.cmdFont);
+    EXPECT_EQ(frmMain.cmdAttach.font.get(), (ui::Font{"DejaVu Serif", 9}));
 }
 
 TEST_F(AppearanceTest, TheDialogStartsAtThePresentFont) {

@@ -49,6 +49,22 @@ TEST_F(CompletionActions, AChosenSoundIsShownAndStored) {
     EXPECT_FALSE(request.mustExist);
 }
 
+TEST_F(CompletionActions, ASoundOutsideTheCodePageIsKnownByItsShortNameOrNotTaken) {
+    startWith("/sounds/task.wav", "", 0);
+    const QString gong = QString::fromUtf8("/sounds/\xe9\x8a\x85.wav");
+    ports.folders.namesInCodePage = {{gong, "/sounds/1A2B~1.WAV"}};
+    ports.dialogs.openFileAnswers = {gong};
+    ui::click(frmMain.mnuTaskSound);
+    EXPECT_EQ(taskCaption(), "Sound when task completes: /sounds/1A2B~1.WAV");
+    EXPECT_EQ(stored("TaskSound"), "/sounds/1A2B~1.WAV");
+    ports.folders.namesInCodePage = {{gong, ""}};
+    ports.dialogs.openFileAnswers = {gong};
+    ui::click(frmMain.mnuTaskSound);
+    EXPECT_TRUE(lastMessage().startsWith(gong + " cannot be used: "));
+    EXPECT_EQ(taskCaption(), "Sound when task completes: /sounds/1A2B~1.WAV");
+    EXPECT_EQ(stored("TaskSound"), "/sounds/1A2B~1.WAV");
+}
+
 TEST_F(CompletionActions, CancellingTheDialogTakesTheSoundOff) {
     startWith("/sounds/task.wav", "/sounds/end.wav", 0);
     ports.dialogs.openFileAnswers = {std::nullopt, QString()};
@@ -129,7 +145,7 @@ TEST_F(CompletionActions, TheEndSoundFollowsTheRefreshAndPrecedesThePowerActions
 
 TEST_F(CompletionActions, AnInstallThatIsNotQueuedMakesNoSound) {
     startWith("task.wav", "end.wav", 0);
-    ports.dialogs.openFileAnswers = {"/games/ratchet.iso"};
+    ports.dialogs.openFileAnswers = {"/games/lantern.iso"};
     ui::click(frmMain.cmdISO);
     ui::click(frmMain.cmdInstall);
     EXPECT_EQ(commands().filter("inject").size(), 1);
@@ -147,6 +163,30 @@ TEST_F(CompletionActions, ATickInTheStatusWindowCountsForThisRunAlone) {
     runQueue();
     EXPECT_EQ(ports.power.shutDowns, 0);
     EXPECT_EQ(stored("TurnOffPC"), "1");
+    runQueue();
+    EXPECT_EQ(ports.power.shutDowns, 1);
+}
+
+TEST_F(CompletionActions, TheBoxesOfTheStatusWindowTakeTheirNumbersAsTheSettingsDo) {
+    startProgram();
+    store("TurnOffPS2", "1.9");
+    store("TurnOffPC", "0.6");
+    addInstalls(1);
+    ports.pump.after(1000, [this] {
+        EXPECT_EQ(frmStatus->chkShutdownPS2.value, 2);
+        EXPECT_EQ(frmStatus->chkShutdown.value, 1);
+    });
+    runQueue();
+    EXPECT_EQ(ports.power.shutDowns, 1);
+    EXPECT_EQ(commands().filter("poweroff"), QStringList()) << "greyed is not ticked";
+}
+
+TEST_F(CompletionActions, ASettingThatNoBoxHoldsIsNotTheTickOfTheRunBefore) {
+    store("TurnOffPC", "1");
+    startProgram();
+    addInstalls(1);
+    runQueue();
+    store("TurnOffPC", "7");
     runQueue();
     EXPECT_EQ(ports.power.shutDowns, 1);
 }
@@ -203,6 +243,23 @@ TEST_F(CompletionActions, TheStatusWindowKeepsItsTextsWhenItIsHidden) {
     EXPECT_FALSE(frmStatus->shown());
     EXPECT_TRUE(frmStatus.untouched().loaded());
     EXPECT_EQ(frmStatus->lblTask.caption.get(), "Currently on Job 1 of 1");
+}
+
+TEST_F(CompletionActions, TheBoxOfTheConsoleIsOffForALocalDiskAndOnAgainForTheConsole) {
+    store("TurnOffPS2", "1");
+    startProgram();
+    addInstalls(1);
+    runQueue();
+    EXPECT_EQ(frmStatus->chkShutdownPS2.value, 1);
+    EXPECT_TRUE(frmStatus->chkShutdownPS2.enabled);
+    frmMain.optLocal.value = true;
+    runQueue();
+    EXPECT_EQ(frmStatus->chkShutdownPS2.value, 0);
+    EXPECT_FALSE(frmStatus->chkShutdownPS2.enabled);
+    frmMain.optLAN.value = true;
+    runQueue();
+    EXPECT_EQ(frmStatus->chkShutdownPS2.value, 1);
+    EXPECT_TRUE(frmStatus->chkShutdownPS2.enabled);
 }
 
 } // namespace tarnwell::test

@@ -1,10 +1,11 @@
-#include "app/config_store.h"
+#include "base/config_store.h"
 #include "support/fake_ports.h"
 #include "support/gtest_qt.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QStringConverter>
 
 #include <gtest/gtest.h>
 
@@ -102,12 +103,24 @@ TEST_F(ConfigStoreTest, TheFirstMatchWins) {
 }
 
 TEST_F(ConfigStoreTest, ReadsNumbersLeniently) {
-    put("[tarnwell]\nA=12abc\nB=\nC=x\nD=-2147483633\nE=99999999999\n");
+    put("[tarnwell]\nA=12abc\nB=\nC=x\nD=-2147483633\nE=1.9\nF= .5 \n");
     EXPECT_EQ(config.number("A"), 12);
     EXPECT_EQ(config.number("B"), 0);
     EXPECT_EQ(config.number("C"), 0);
     EXPECT_EQ(config.number("D"), -2147483633);
-    EXPECT_EQ(config.number("E"), 2147483647);
+    EXPECT_EQ(config.number("E"), 1.9);
+    EXPECT_EQ(config.number("F"), 0.5);
+}
+
+TEST_F(ConfigStoreTest, WholeNumbersAreTheNearestAndOfTwoTheEvenOne) {
+    put("[tarnwell]\nA=1.9\nB=0.5\nC=1.5\nD=-2.5\nE=99999999999\nF=-99999999999\nG=x\n");
+    EXPECT_EQ(config.wholeNumber("A"), 2);
+    EXPECT_EQ(config.wholeNumber("B"), 0);
+    EXPECT_EQ(config.wholeNumber("C"), 2);
+    EXPECT_EQ(config.wholeNumber("D"), -2);
+    EXPECT_EQ(config.wholeNumber("E"), 2147483647);
+    EXPECT_EQ(config.wholeNumber("F"), -2147483647 - 1);
+    EXPECT_EQ(config.wholeNumber("G"), 0);
 }
 
 TEST_F(ConfigStoreTest, AWriteKeepsWhatItDoesNotChange) {
@@ -122,6 +135,18 @@ TEST_F(ConfigStoreTest, ANewKeyGoesBehindTheLastOfItsSection) {
     put("[tarnwell]\nIP=1.2.3.4\n\n[other]\nx=1\n");
     config.write("Font", "Arial");
     EXPECT_EQ(file(), "[tarnwell]\nIP=1.2.3.4\nFont=Arial\n\n[other]\nx=1\n");
+}
+
+TEST_F(ConfigStoreTest, ANewKeyEndsItsLineAsTheFileDoes) {
+    put("[tarnwell]\r\nIP=1.2.3.4\r\n\r\n[other]\r\nx=1\r\n");
+    config.write("Font", "Arial");
+    EXPECT_EQ(file(), "[tarnwell]\r\nIP=1.2.3.4\r\nFont=Arial\r\n\r\n[other]\r\nx=1\r\n");
+    put("[tarnwell]\rIP=1.2.3.4\r");
+    config.write("Font", "Arial");
+    EXPECT_EQ(file(), "[tarnwell]\rIP=1.2.3.4\rFont=Arial\r");
+    put("[tarnwell]");
+    config.write("Font", "Arial");
+    EXPECT_EQ(file(), "[tarnwell]\r\nFont=Arial\r\n") << "a file without any line end gets Windows' own";
 }
 
 TEST_F(ConfigStoreTest, ANewSectionIsAddedToAFileWithoutALastLineEnd) {
@@ -168,4 +193,56 @@ TEST_F(ConfigStoreTest, FilesAreFoundByWildCardsToo) {
     EXPECT_FALSE(FileExists(config.AppFolder() + "*.iso"));
     EXPECT_FALSE(FileExists(folders.folder));
     EXPECT_FALSE(FileExists(""));
+}
+
+namespace {
+
+/// As editors save it: with a mark in front that tells the form.
+struct MarkedForm {
+    const char* name;
+    QStringConverter::Encoding encoding;
+};
+
+struct MarkedConfigStore : ConfigStoreTest, testing::WithParamInterface<MarkedForm> {
+    static QByteArray inForm(const QString& text) {
+        QStringEncoder encoder(GetParam().encoding, QStringConverter::Flag::WriteBom);
+        return encoder.encode(text);
+    }
+    static inline const QString kFolder = QString::fromUtf8("D:\\Jeux d\xc3\xa9mo \xe3\x82\xb2\\");
+};
+
+INSTANTIATE_TEST_SUITE_P(, MarkedConfigStore,
+                         testing::Values(MarkedForm{"Utf8", QStringConverter::Utf8},
+                                         MarkedForm{"Utf16", QStringConverter::Utf16LE},
+                                         MarkedForm{"Utf16BigEndian", QStringConverter::Utf16BE}),
+                         [](const auto& form) { return std::string(form.param.name); });
+
+} // namespace
+
+TEST_P(MarkedConfigStore, IsRead) {
+    put(inForm("[tarnwell]\r\nIP = \"10.1.2.3\" \r\nDefaultISO=" + kFolder + "\r\nClosePS2=1\r\n"));
+    EXPECT_EQ(config.text("IP"), "10.1.2.3");
+    EXPECT_EQ(config.text("DefaultISO"), kFolder);
+    EXPECT_EQ(config.number("ClosePS2"), 1);
+}
+
+TEST_P(MarkedConfigStore, StaysInItsFormWhenAKeyIsWritten) {
+    put(inForm("; " + kFolder + "\r\n[tarnwell]\r\nIP=10.1.2.3\r\n\r\n[other]\r\nx=1"));
+    config.write("IP", "10.0.0.1");
+    config.write("DefaultISO", kFolder);
+    EXPECT_EQ(file(), inForm("; " + kFolder + "\r\n[tarnwell]\r\nIP=10.0.0.1\r\nDefaultISO=" + kFolder +
+                             "\r\n\r\n[other]\r\nx=1"));
+}
+
+TEST_P(MarkedConfigStore, StaysInItsFormWhenAllIsReset) {
+    put(inForm("\r\n"));
+    config.WriteDefaultConfig();
+    EXPECT_TRUE(file().startsWith(inForm("\r\n[tarnwell]\r\nDefaultISO=\r\nClosePS2=0\r\n")));
+    EXPECT_EQ(config.text("IP"), "192.168.0.10");
+}
+
+TEST_P(MarkedConfigStore, HalfACharacterAtTheEndIsNotLost) {
+    put(inForm("[tarnwell]\nIP=1.2.3.4\n") + "\xC3");
+    config.write("IP", "10.0.0.1");
+    EXPECT_EQ(file(), inForm("[tarnwell]\nIP=10.0.0.1\n") + "\xC3");
 }

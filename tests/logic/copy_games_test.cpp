@@ -9,8 +9,10 @@ constexpr quint32 kTarget = 0x0A000002; // 10.0.0.2
 
 struct CopyGames : GameListTest {
     CopyGames() {
-        listGames({{.name = "Ratchet"}, {.name = "Tekken Tag", .type = "CD"}});
-        frmMain.mnuBackup.poppedUp.connect([this](int x, int y) { menus_.push_back({x, y}); });
+        listGames({{.name = "Lantern"}, {.name = "Copper Run", .type = "CD"}});
+        frmMain.menuWanted.connect([this](ui::PopupMenu& menu, const ui::Control& control) {
+            menus_ += menu.name + " below " + control.name;
+        });
     }
 
     void copyToPc(const QString& file) {
@@ -22,24 +24,37 @@ struct CopyGames : GameListTest {
         ui::click(frmMain.cmdBackupPS2);
     }
 
-    std::vector<std::pair<int, int>> menus_;
+    QStringList menus_;
 };
 
 } // namespace
 
 TEST_F(CopyGames, AGameOfTheConsoleGoesToAFile) {
     select({0});
-    copyToPc("/games/ratchet.iso");
-    expectQueued({"Backup to PC", "192.168.0.10", "/games/ratchet.iso", "Ratchet"},
-                 "extract 192.168.0.10 Ratchet /games/ratchet.iso");
+    copyToPc("/games/lantern.iso");
+    expectQueued({"Backup to PC", "192.168.0.10", "/games/lantern.iso", "Lantern"},
+                 "extract 192.168.0.10 Lantern /games/lantern.iso");
     EXPECT_EQ(commandsSince(), QStringList()) << "nothing runs before the queue does";
+}
+
+TEST_F(CopyGames, AFileOutsideTheCodePageIsKnownByTheShortNameOfItsFolderOrNotTaken) {
+    const QString folder = QString::fromUtf8("/\xe3\x82\xb2/");
+    ports.folders.namesInCodePage = {{folder, ""}};
+    select({0});
+    copyToPc(folder + "lantern.iso");
+    EXPECT_TRUE(lastMessage().startsWith(folder + "lantern.iso cannot be used: "));
+    expectNothingQueued();
+    ports.folders.namesInCodePage = {{folder, "/1A2B~1/"}};
+    copyToPc(folder + "lantern.iso");
+    expectQueued({"Backup to PC", "192.168.0.10", "/1A2B~1/lantern.iso", "Lantern"},
+                 "extract 192.168.0.10 Lantern /1A2B~1/lantern.iso");
 }
 
 TEST_F(CopyGames, AGameGoesToAnotherConsole) {
     select({0});
     copyToConsole("10.0.0.2");
-    expectQueued({"Copy to PS2", "192.168.0.10", "10.0.0.2", "Ratchet"},
-                 "inject_dvd 10.0.0.2 Ratchet Ratchet@192.168.0.10");
+    expectQueued({"Copy to PS2", "192.168.0.10", "10.0.0.2", "Lantern"},
+                 "inject_dvd 10.0.0.2 Lantern Lantern@192.168.0.10");
     EXPECT_EQ(ports.ping.echoes.back().address, kTarget);
     ASSERT_EQ(ports.dialogs.inputs.size(), 1u);
     EXPECT_EQ(ports.dialogs.inputs[0].prompt,
@@ -51,21 +66,21 @@ TEST_F(CopyGames, AGameGoesToAnotherConsole) {
 TEST_F(CopyGames, AGameGoesToADiskOfThePc) {
     select({0});
     ui::click(frmMain.mnuHDD[1]);
-    expectQueued({"Copy to HDD", "192.168.0.10", "hdd2:", "Ratchet"},
-                 "inject_dvd hdd2: Ratchet Ratchet@192.168.0.10");
+    expectQueued({"Copy to HDD", "192.168.0.10", "hdd2:", "Lantern"},
+                 "inject_dvd hdd2: Lantern Lantern@192.168.0.10");
 }
 
 TEST_F(CopyGames, ALocalDiskGoesByItsShortNameToAFileAndByItsLongNameElsewhere) {
     answerQueryWith("\thdd10:  114473MB, formatted Playstation 2 HDD\r\n" + kTwoDisks);
     useLocalDisk();
-    list({"Ratchet"});
+    list({"Lantern"});
     select({0});
-    copyToPc("/games/ratchet.iso");
+    copyToPc("/games/lantern.iso");
     copyToConsole("10.0.0.2");
     ui::click(frmMain.mnuHDD[1]);
-    EXPECT_EQ(commandsOfJobs(), QStringList({"extract hdd10 Ratchet /games/ratchet.iso",
-                                             "inject_dvd 10.0.0.2 Ratchet Ratchet@hdd10:",
-                                             "inject_dvd hdd1: Ratchet Ratchet@hdd10:"}));
+    EXPECT_EQ(commandsOfJobs(), QStringList({"extract hdd10 Lantern /games/lantern.iso",
+                                             "inject_dvd 10.0.0.2 Lantern Lantern@hdd10:",
+                                             "inject_dvd hdd1: Lantern Lantern@hdd10:"}));
     EXPECT_EQ(frmMain.lstJob.row(0).subItems[1], "hdd10");
     EXPECT_EQ(frmMain.lstJob.row(1).subItems[1], "hdd10:");
     EXPECT_EQ(frmMain.lstJob.row(2).subItems[1], "hdd10:");
@@ -74,20 +89,20 @@ TEST_F(CopyGames, ALocalDiskGoesByItsShortNameToAFileAndByItsLongNameElsewhere) 
 TEST_F(CopyGames, ATargetWithALongNameLosesItsColon) {
     answerQueryWith("\thdd1:  114473MB, formatted Playstation 2 HDD\r\n"
                     "\thdd10:  114473MB, formatted Playstation 2 HDD\r\n");
-    list({"Ratchet"});
+    list({"Lantern"});
     select({0});
     ui::click(frmMain.mnuHDD[1]);
-    EXPECT_EQ(commandsOfJobs(), QStringList("inject_dvd hdd10 Ratchet Ratchet@192.168.0.10"));
+    EXPECT_EQ(commandsOfJobs(), QStringList("inject_dvd hdd10 Lantern Lantern@192.168.0.10"));
 }
 
 TEST_F(CopyGames, ANameWithABlankIsQuotedWhereverItStands) {
     select({1});
-    copyToPc("/my games/tekken.iso");
+    copyToPc("/my games/copper.iso");
     copyToConsole("10.0.0.2");
     EXPECT_EQ(commandsOfJobs(),
-              QStringList({"extract 192.168.0.10 \"Tekken Tag\" \"/my games/tekken.iso\"",
-                           "inject_cd 10.0.0.2 \"Tekken Tag\" \"Tekken Tag@192.168.0.10\""}));
-    EXPECT_EQ(frmMain.lstJob.row(0).subItems[3], "Tekken Tag");
+              QStringList({"extract 192.168.0.10 \"Copper Run\" \"/my games/copper.iso\"",
+                           "inject_cd 10.0.0.2 \"Copper Run\" \"Copper Run@192.168.0.10\""}));
+    EXPECT_EQ(frmMain.lstJob.row(0).subItems[3], "Copper Run");
 }
 
 TEST_F(CopyGames, ALongNameWithQuotesInAnyAlphabetArrivesAsItIs) {
@@ -95,7 +110,7 @@ TEST_F(CopyGames, ALongNameWithQuotesInAnyAlphabetArrivesAsItIs) {
     select({0});
     copyToPc("/g.iso");
     EXPECT_EQ(commandsOfJobs(), QStringList("extract 192.168.0.10 \"" + kLongName + "\" /g.iso"));
-    EXPECT_EQ(ports.dialogs.saveFileRequests.at(0).fileName, kLongName + ".iso");
+    EXPECT_EQ(ports.dialogs.saveFileRequests.at(0).fileName, QString(kLongName).replace('"', '-') + ".iso");
 }
 
 TEST_F(CopyGames, TheDialogProposesTheNameOfTheGame) {
@@ -103,7 +118,7 @@ TEST_F(CopyGames, TheDialogProposesTheNameOfTheGame) {
     select({1});
     copyToPc("/g.iso");
     const SaveFileRequest& request = ports.dialogs.saveFileRequests.at(0);
-    EXPECT_EQ(request.fileName, "Tekken Tag.iso");
+    EXPECT_EQ(request.fileName, "Copper Run.iso");
     EXPECT_EQ(request.folder, "/my images");
     EXPECT_EQ(request.extension, "iso");
     EXPECT_EQ(request.filter, "ISO Files (*.iso)|*.iso|All Files (*.*)|*.*|");
@@ -111,11 +126,11 @@ TEST_F(CopyGames, TheDialogProposesTheNameOfTheGame) {
 }
 
 TEST_F(CopyGames, OnlyThePartBehindTheLastBackslashIsProposed) {
-    list({"Fate\\Stay\\Night"});
+    list({"Dusk\\Till\\Dawns"});
     select({0});
     copyToPc("/g.iso");
-    EXPECT_EQ(ports.dialogs.saveFileRequests.at(0).fileName, "Night.iso");
-    EXPECT_EQ(commandsOfJobs(), QStringList("extract 192.168.0.10 Fate\\Stay\\Night /g.iso"));
+    EXPECT_EQ(ports.dialogs.saveFileRequests.at(0).fileName, "Dawns.iso");
+    EXPECT_EQ(commandsOfJobs(), QStringList("extract 192.168.0.10 Dusk\\Till\\Dawns /g.iso"));
 }
 
 TEST_F(CopyGames, AFileThatExistsIsLeftAlone) {
@@ -160,7 +175,7 @@ TEST_F(CopyGames, OneGameAtATime) {
 TEST_F(CopyGames, TheMenuOfDisksCountsNoFurther) {
     select({0, 1});
     ui::click(frmMain.mnuHDD[1]);
-    EXPECT_EQ(commandsOfJobs(), QStringList("inject_cd hdd2: \"Tekken Tag\" \"Tekken Tag@192.168.0.10\""));
+    EXPECT_EQ(commandsOfJobs(), QStringList("inject_cd hdd2: \"Copper Run\" \"Copper Run@192.168.0.10\""));
 }
 
 TEST_F(CopyGames, NothingSelectedOrListedEndsWithoutAWord) {
@@ -186,29 +201,26 @@ TEST_F(CopyGames, AGameWithoutTheFocusOpensTheMenuButIsNotCopied) {
     frmMain.lstHD.setSelected(0, false);
     frmMain.lstHD.setSelected(1, true);
     ui::click(frmMain.cmdBackupHDD);
-    EXPECT_EQ(menus_.size(), 1u);
+    EXPECT_EQ(menus_.size(), 1);
     EXPECT_TRUE(ui::click(frmMain.mnuHDD[1]));
     expectNothingQueued();
     EXPECT_TRUE(ports.dialogs.messages.empty());
 }
 
 TEST_F(CopyGames, TheMenuOpensBelowItsButton) {
-    frmMain.cmdBackupHDD.left = 300;
-    frmMain.cmdBackupHDD.top = 2000;
-    frmMain.cmdBackupHDD.height = 375;
     ui::click(frmMain.cmdBackupHDD);
-    EXPECT_EQ(menus_, (std::vector<std::pair<int, int>>{{frmMain.fmBrowse.left + 300, 2375}}));
+    EXPECT_EQ(menus_, QStringList("mnuBackup below cmdBackupHDD"));
     expectNothingQueued();
 }
 
 TEST_F(CopyGames, TheDiskInUseIsNoTarget) {
     useLocalDisk(1);
-    list({"Ratchet"});
+    list({"Lantern"});
     select({0});
     EXPECT_FALSE(ui::click(frmMain.mnuHDD[1]));
     EXPECT_FALSE(ui::click(frmMain.mnuHDD[2])) << "there is no third disk";
     EXPECT_TRUE(ui::click(frmMain.mnuHDD[0]));
-    EXPECT_EQ(commandsOfJobs(), QStringList("inject_dvd hdd1: Ratchet Ratchet@hdd2:"));
+    EXPECT_EQ(commandsOfJobs(), QStringList("inject_dvd hdd1: Lantern Lantern@hdd2:"));
 }
 
 TEST_F(CopyGames, AnyTypeButDvdIsACd) {
@@ -224,7 +236,31 @@ TEST_F(CopyGames, TheSourceAsItsOwnTargetIsWarnedOfAndQueued) {
     EXPECT_EQ(ports.dialogs.messageTexts(),
               QStringList("The address you entered matches the source PS2 address. Try again."));
     EXPECT_EQ(ports.dialogs.inputs.size(), 1u) << "no second box, whatever the words";
-    EXPECT_EQ(commandsOfJobs(), QStringList("inject_dvd 192.168.0.10 Ratchet Ratchet@192.168.0.10"));
+    EXPECT_EQ(commandsOfJobs(), QStringList("inject_dvd 192.168.0.10 Lantern Lantern@192.168.0.10"));
+}
+
+TEST_F(CopyGames, BlanksBehindTheAddressHideNoSourceAndReachTheTool) {
+    select({0});
+    copyToConsole("192.168.0.10 ");
+    EXPECT_EQ(ports.dialogs.messages.size(), 1u) << "of the source as its own target";
+    EXPECT_EQ(frmMain.lstJob.row(0).subItems[2], "192.168.0.10 ");
+    EXPECT_EQ(commandsOfJobs(), QStringList("inject_dvd \"192.168.0.10 \" Lantern Lantern@192.168.0.10"));
+}
+
+TEST_F(CopyGames, ABlankInFrontOfTheAddressIsLookedForToo) {
+    select({0});
+    copyToConsole(" 10.0.0.2");
+    EXPECT_TRUE(lastMessage().startsWith("A PS2 console could not be found at IP address:  10.0.0.2\r\n"));
+    expectNothingQueued();
+}
+
+TEST_F(CopyGames, TheAddressOfTheSourceIsComparedAsItWasTyped) {
+    ui::type(frmMain.txtIP, "192.168.0.10 ");
+    list({"Lantern"});
+    select({0});
+    copyToConsole("192.168.0.10");
+    EXPECT_TRUE(ports.dialogs.messages.empty());
+    EXPECT_EQ(commandsOfJobs(), QStringList("inject_dvd 192.168.0.10 Lantern \"Lantern@192.168.0.10 \""));
 }
 
 TEST_F(CopyGames, AConsoleThatDoesNotAnswerIsNoTarget) {

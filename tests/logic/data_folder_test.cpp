@@ -52,6 +52,8 @@ struct WindowsProfileTest : DataFolderTest {
 #endif
 
     static inline const QString kFirst = "C:\\Documents and Settings\\ann\\Application Data\\";
+    /// As it is looked for where the name is not trimmed.
+    static inline const QString kFirstUntrimmed = "C:\\Documents and Settings\\ann \\Application Data\\";
     static inline const QString kSecond = "C:\\Users\\ann\\AppData\\Roaming\\";
     static inline const QString kTitle = "Locate C:\\Documents and Settings\\ann \\Application Data";
 };
@@ -118,7 +120,8 @@ TEST_F(DataFolderTest, AChosenFolderOutsideTheCodePageIsKnownByItsOtherNameOrNot
     expectFolder(shortName);
     ports.folders.namesInCodePage[chosen] = QString();
     choose(chosen);
-    EXPECT_EQ(lastMessage(), kNotFound);
+    EXPECT_TRUE(lastMessage().startsWith(chosen + " cannot be used: "));
+    EXPECT_EQ(enabledToolSettings(), "1111111");
     expectFolder(shortName);
 }
 
@@ -138,6 +141,20 @@ TEST_F(DataFolderTest, TheUserIsAskedOnTheGuiPageIfThereIsNone) {
     EXPECT_TRUE(frmMain.shown());
 }
 
+TEST_F(DataFolderTest, TheUserIsToldOnTheOpenPageBeforeThePickerComes) {
+    ports.folders.data.clear();
+    ports.dialogs.chooseFolderAnswers.push_back(makeFolder("mine", true));
+    std::vector<std::size_t> messagesAndPickers;
+    ports.dialogs.whileOpen = [&] {
+        messagesAndPickers.push_back(ports.dialogs.messages.size());
+        messagesAndPickers.push_back(ports.dialogs.chooseFolderRequests.size());
+        EXPECT_TRUE(frmSettings.untouched().shown());
+        EXPECT_TRUE(frmSettings.untouched().fmGUI.visible);
+    };
+    start();
+    EXPECT_EQ(messagesAndPickers, (std::vector<std::size_t>{1, 0, 1, 1}));
+}
+
 TEST_F(DataFolderTest, ACancelledPickerChangesNothing) {
     start();
     open();
@@ -146,6 +163,14 @@ TEST_F(DataFolderTest, ACancelledPickerChangesNothing) {
     expectFolder(folder);
     EXPECT_EQ(enabledToolSettings(), "1111111");
     EXPECT_TRUE(ports.dialogs.messages.empty());
+}
+
+TEST_F(DataFolderTest, TheToolsSettingsAreReadFromAFolderAsSoonAsItIsChosen) {
+    startAndOpen();
+    const QString folder = makeFolder("mine", true);
+    writeTo(folder + "tarnwell.conf", "target_kbps = 77\n");
+    choose(folder);
+    EXPECT_EQ(frmSettings->txtTargetkbps.text.get(), "77");
 }
 
 TEST_F(DataFolderTest, AFolderWithoutTheFileTurnsTheToolsSettingsOffUntilABetterChoice) {
@@ -169,6 +194,76 @@ TEST_F(DataFolderTest, ThePickerStartsAtTheSystemsFolderWhereThereAreNoProfileFo
     ASSERT_EQ(ports.dialogs.chooseFolderRequests.size(), 1u);
     EXPECT_EQ(ports.dialogs.chooseFolderRequests[0].folder, ports.folders.data);
     EXPECT_EQ(ports.dialogs.chooseFolderRequests[0].title, "Locate " + ports.folders.data);
+}
+
+/// Nobody can write the settings of the program: what stands in their place is a folder.
+struct UnwritableStore : DataFolderTest {
+    UnwritableStore() {
+        QDir().mkpath(path("config.cfg"));
+        QDir::setCurrent(makeFolder("elsewhere"));
+    }
+    ~UnwritableStore() override { QDir::setCurrent(before); }
+
+    QStringList strayFiles() const { return QDir(path("elsewhere")).entryList(QDir::Files); }
+
+    const QString before = QDir::currentPath();
+};
+
+TEST_F(UnwritableStore, IsToldInOneSentenceBehindTheShownWindow) {
+    ports.dialogs.whileOpen = [this] { EXPECT_TRUE(frmMain.shown()); };
+    start();
+    EXPECT_EQ(
+        ports.dialogs.messageTexts(),
+        QStringList(path("config.cfg") +
+                    " cannot be written: what you change on the GUI page of Settings & Tools, the console's "
+                    "address and the place of the tool's data will not be kept."));
+}
+
+TEST_F(UnwritableStore, TheFolderThatWasFoundServesThisRun) {
+    writeConf("target_kbps = 77\n");
+    startAndOpen();
+    EXPECT_EQ(frmSettings->txtApplicationData.text.get(), ports.folders.data + QDir::separator());
+    EXPECT_EQ(frmSettings->txtTargetkbps.text.get(), "77");
+    ui::click(frmSettings->cmdDiskDatabase);
+    EXPECT_EQ(ports.dialogs.openFileRequests.back().folder, ports.folders.data + QDir::separator());
+    ui::click(frmSettings->cmdExit);
+    EXPECT_TRUE(readConf().contains("\"target_kbps\" = \"77\"\n"));
+    EXPECT_EQ(strayFiles(), QStringList());
+}
+
+TEST_F(UnwritableStore, AFolderThatTheUserShowsServesThisRun) {
+    startAndOpen();
+    const QString folder = makeFolder("mine", true);
+    choose(folder);
+    EXPECT_EQ(frmSettings->txtApplicationData.text.get(), folder);
+    ui::click(frmSettings->cmdExit);
+    EXPECT_TRUE(readFrom(folder + "tarnwell.conf").contains("target_kbps"));
+    EXPECT_EQ(readConf(), "") << "the folder that was found first";
+}
+
+TEST_F(UnwritableStore, TheStoreCountsAgainAsSoonAsItTakesTheFolder) {
+    startAndOpen();
+    QDir().rmdir(path("config.cfg"));
+    choose(makeFolder("mine", true));
+    const QString byHand = makeFolder("by hand", true);
+    store("ApplicationData", byHand);
+    ui::click(frmSettings->cmdExit);
+    EXPECT_TRUE(readFrom(byHand + "tarnwell.conf").contains("target_kbps"));
+}
+
+TEST_F(UnwritableStore, WithoutAnyFolderNothingIsWrittenAnywhere) {
+    ports.folders.data.clear();
+    start();
+    EXPECT_EQ(ports.dialogs.messages.front().text, kLocate);
+    writeFile("elsewhere/tarnwell.conf", "target_kbps = 5\n");
+    ui::click(frmSettings->cmdExit);
+    EXPECT_EQ(lastMessage(),
+              "Tarnwell settings will not be saved because your Application Data folder has not "
+              "been properly set.");
+    EXPECT_EQ(readFrom(path("elsewhere/tarnwell.conf")), "target_kbps = 5\n");
+    QFile::remove(path("elsewhere/tarnwell.conf"));
+    open();
+    EXPECT_EQ(strayFiles(), QStringList());
 }
 
 TEST_F(WindowsProfileTest, TheFirstFormComesBeforeTheSecond) {
@@ -220,6 +315,33 @@ TEST_F(WindowsProfileTest, ThePickerStartsAtTheProfileIfItHoldsAFile) {
     EXPECT_EQ(frmSettings->txtDefaultPath.text.get(), profile);
     ASSERT_EQ(ports.dialogs.chooseFolderRequests.size(), 1u);
     EXPECT_EQ(ports.dialogs.chooseFolderRequests[0].folder, profile.chopped(1));
+}
+
+TEST_F(WindowsProfileTest, UseDefaultsTakesTheFirstFormIfItHoldsAFile) {
+    QDir().mkdir(kSecond);
+    startAndOpen();
+    QDir().mkdir(kFirstUntrimmed);
+    writeTo(kFirstUntrimmed + "tarnwell.conf", "");
+    ui::click(frmSettings->cmdDefaults);
+    expectFolder(kFirstUntrimmed);
+    EXPECT_EQ(frmSettings->txtDiscDatabase.text.get(), kFirstUntrimmed + "tarnwell.list");
+    EXPECT_TRUE(ports.dialogs.chooseFolderRequests.empty());
+}
+
+TEST_F(WindowsProfileTest, UseDefaultsAsksTheUserIfTheFirstFormIsEmpty) {
+    QDir().mkdir(kSecond);
+    startAndOpen();
+    QDir().mkdir(kFirstUntrimmed);
+    ui::click(frmSettings->cmdDefaults);
+    EXPECT_EQ(ports.dialogs.chooseFolderRequests.size(), 1u);
+}
+
+TEST_F(WindowsProfileTest, UseDefaultsPrefersTheSystemsOwnFolder) {
+    ports.folders.data = path("data");
+    startAndOpen();
+    ui::click(frmSettings->cmdDefaults);
+    expectFolder(path("data") + QDir::separator());
+    EXPECT_TRUE(ports.dialogs.chooseFolderRequests.empty());
 }
 
 TEST_F(WindowsProfileTest, UseDefaultsAsksTheUserIfOnlyTheSecondFormIsThere) {

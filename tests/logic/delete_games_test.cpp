@@ -5,36 +5,42 @@ namespace tarnwell::test {
 namespace {
 
 struct DeleteGames : GameListTest {
-    DeleteGames() { list({"Ratchet", "Tekken Tag", "Ico"}); }
+    DeleteGames() { list({"Lantern", "Copper Run", "Fen"}); }
 };
 
 } // namespace
 
 TEST_F(DeleteGames, TheButtonOffersBothWaysBelowItself) {
-    std::pair<int, int> place;
-    frmMain.mnuDelete.poppedUp.connect([&](int x, int y) { place = {x, y}; });
-    frmMain.fmBrowse.top = 30;
-    frmMain.cmdDelete.left = 100;
-    frmMain.cmdDelete.top = 2000;
-    frmMain.cmdDelete.height = 375;
+    QStringList menus;
+    frmMain.menuWanted.connect([&](ui::PopupMenu& menu, const ui::Control& control) {
+        menus += menu.name + " below " + control.name;
+    });
     ui::click(frmMain.cmdDelete);
-    EXPECT_EQ(place, std::pair(frmMain.fmBrowse.left + 100, 30 + 2000 + 375));
+    EXPECT_EQ(menus, QStringList("mnuDelete below cmdDelete"));
     EXPECT_TRUE(ports.dialogs.questions.isEmpty());
 }
 
 TEST_F(DeleteGames, AsksThenDeletesOneAfterTheOtherAndReadsTheListAnew) {
     select({0, 1});
-    answerTocWith("type\r\nDVD 4193280KB                SLUS_200.71   Ico\r\n");
+    answerTocWith("type\r\nDVD 4193280KB                SLUS_990.71   Fen\r\n");
     ui::click(frmMain.mnuDeleteNow);
     EXPECT_EQ(ports.dialogs.questions,
               QStringList("Are you sure you would like to permanently delete the following game(s)?"
-                          "\r\n\r\nRatchet\r\nTekken Tag\r\n"));
+                          "\r\n\r\nLantern\r\nCopper Run\r\n"));
     EXPECT_EQ(commandsSince(),
-              QStringList({"delete 192.168.0.10 Ratchet", "delete 192.168.0.10 \"Tekken Tag\"", "query",
+              QStringList({"delete 192.168.0.10 Lantern", "delete 192.168.0.10 \"Copper Run\"", "query",
                            "tarn_toc 192.168.0.10"}));
-    EXPECT_EQ(names(), QStringList("Ico"));
-    EXPECT_EQ(balloons(), QStringList("Tekken Tag deleted from HDD"));
+    EXPECT_EQ(names(), QStringList("Fen"));
+    EXPECT_EQ(balloons(), QStringList("Copper Run deleted from HDD"));
     EXPECT_TRUE(ports.dialogs.messages.empty());
+}
+
+TEST_F(DeleteGames, TheBalloonComesWhenTheListHasBeenReadAnew) {
+    select({0});
+    ui::click(frmMain.mnuDeleteNow);
+    EXPECT_EQ(journal().mid(journal().size() - 4),
+              Journal({"run delete 192.168.0.10 Lantern", "run query", "run tarn_toc 192.168.0.10",
+                       "balloon Lantern deleted from HDD"}));
 }
 
 TEST_F(DeleteGames, EachGameIsFollowedByAPauseOfASecond) {
@@ -83,7 +89,7 @@ TEST_F(DeleteGames, OnlyTheGamesThatWereAskedAboutAreDeleted) {
     select({1});
     ui::click(frmMain.mnuDeleteNow);
     EXPECT_EQ(commandsSince().filter("delete"),
-              QStringList({"delete 192.168.0.10 Ratchet", "delete 192.168.0.10 \"Tekken Tag\""}));
+              QStringList({"delete 192.168.0.10 Lantern", "delete 192.168.0.10 \"Copper Run\""}));
 }
 
 TEST_F(DeleteGames, AListThatIsEmptiedMeanwhileDoesNoHarm) {
@@ -91,7 +97,7 @@ TEST_F(DeleteGames, AListThatIsEmptiedMeanwhileDoesNoHarm) {
     ports.pump.after(500, [this] { ui::type(frmMain.txtIP, "10.0.0.2"); });
     ui::click(frmMain.mnuDeleteNow);
     EXPECT_EQ(commandsSince().filter("delete"),
-              QStringList({"delete 192.168.0.10 Ratchet", "delete 192.168.0.10 \"Tekken Tag\""}));
+              QStringList({"delete 192.168.0.10 Lantern", "delete 192.168.0.10 \"Copper Run\""}));
     EXPECT_EQ(commandsSince().last(), "tarn_toc 10.0.0.2");
 }
 
@@ -107,32 +113,23 @@ TEST_F(DeleteGames, ThePointerIsTheHourglassMeanwhile) {
 TEST_F(DeleteGames, ALocalDiskGoesByItsFirstFiveCharacters) {
     answerQueryWith("\thdd10:  114473MB, formatted Playstation 2 HDD\r\n");
     useLocalDisk();
-    list({"Ratchet"});
+    list({"Lantern"});
     select({0});
     ui::click(frmMain.mnuDeleteNow);
     ui::click(frmMain.mnuDeleteQueue);
-    EXPECT_EQ(commandsSince().first(), "delete hdd10 Ratchet");
+    EXPECT_EQ(commandsSince().first(), "delete hdd10 Lantern");
     select({0});
     ui::click(frmMain.mnuDeleteQueue);
-    EXPECT_EQ(commandsOfJobs(), QStringList("delete hdd10 Ratchet"));
+    EXPECT_EQ(commandsOfJobs(), QStringList("delete hdd10 Lantern"));
 }
 
 TEST_F(DeleteGames, AConsoleThatHasGoneIsToldAfterwards) {
     select({0});
     ports.ping.reply = {.status = FakePing::kTimedOut};
     ui::click(frmMain.mnuDeleteNow);
-    EXPECT_EQ(commandsSince().first(), "delete 192.168.0.10 Ratchet");
+    EXPECT_EQ(commandsSince().first(), "delete 192.168.0.10 Lantern");
     EXPECT_TRUE(lastMessage().startsWith("A PS2 console could not be found"));
     EXPECT_EQ(frmMain.mousePointer, ui::MousePointer::Default);
-}
-
-TEST_F(DeleteGames, ABusyToolIsToldForEachGame) {
-    select({0, 1});
-    ports.launcher.on("tarnwell.exe tarn_toc", {.output = {{"type\r\n", 10000}}, .endsAtMs = 10100});
-    ports.pump.after(100, [this] { ui::click(frmMain.mnuDeleteNow); });
-    ui::click(frmMain.cmdAttach);
-    EXPECT_EQ(ports.dialogs.messageTexts().filter("Unexpected error.").size(), 2);
-    EXPECT_TRUE(commandsSince().filter("delete").isEmpty());
 }
 
 TEST_F(DeleteGames, ExitMeanwhileDeletesNoMore) {
@@ -140,7 +137,7 @@ TEST_F(DeleteGames, ExitMeanwhileDeletesNoMore) {
     ports.pump.after(500, [this] { ui::click(frmMain.mnuExit); });
     ui::click(frmMain.mnuDeleteNow);
     EXPECT_TRUE(ports.pump.ended());
-    EXPECT_EQ(commandsSince(), QStringList("delete 192.168.0.10 Ratchet"));
+    EXPECT_EQ(commandsSince(), QStringList("delete 192.168.0.10 Lantern"));
 }
 
 TEST_F(DeleteGames, ByQueueEveryGameBecomesAJob) {
@@ -148,18 +145,27 @@ TEST_F(DeleteGames, ByQueueEveryGameBecomesAJob) {
     ui::click(frmMain.mnuDeleteQueue);
     EXPECT_EQ(ports.dialogs.questions,
               QStringList("Are you sure you would like to add the following game(s) to the job queue for "
-                          "deletion?\r\n\r\nRatchet\r\nTekken Tag\r\n"));
+                          "deletion?\r\n\r\nLantern\r\nCopper Run\r\n"));
     EXPECT_EQ(commandsOfJobs(),
-              QStringList({"delete 192.168.0.10 Ratchet", "delete 192.168.0.10 \"Tekken Tag\""}));
+              QStringList({"delete 192.168.0.10 Lantern", "delete 192.168.0.10 \"Copper Run\""}));
     EXPECT_EQ(frmMain.lstJob.row(1).text, "Pending");
     EXPECT_EQ(frmMain.lstJob.row(1).subItems,
-              QStringList({"Delete", "192.168.0.10", "", "Tekken Tag", "", "", ""}));
+              QStringList({"Delete", "192.168.0.10", "", "Copper Run", "", "", ""}));
     EXPECT_TRUE(frmMain.cmdStart.enabled);
     EXPECT_TRUE(frmMain.cmdRemove.enabled);
     EXPECT_TRUE(frmMain.cmdClear.enabled);
-    EXPECT_EQ(balloons(), QStringList("Delete Ratchet, Tekken Tag,  job(s) has been added to the job queue"));
+    EXPECT_EQ(balloons(), QStringList("Delete Lantern, Copper Run,  job(s) has been added to the job queue"));
     EXPECT_EQ(commandsSince(), QStringList());
     EXPECT_EQ(frmMain.lstHD.count(), 3);
+}
+
+TEST_F(DeleteGames, ByQueueTheBalloonFollowsTheJobs) {
+    frmMain.lstJob.rowAppended.connect([this](int) { ports.journal += "job"; });
+    select({0, 2});
+    ports.journal.clear();
+    ui::click(frmMain.mnuDeleteQueue);
+    EXPECT_EQ(journal(), Journal({"job", "job",
+                                  "balloon Delete Lantern, Fen,  job(s) has been added to the job queue"}));
 }
 
 TEST_F(DeleteGames, ByQueueNothingSelectedLeavesTheQueueEmpty) {

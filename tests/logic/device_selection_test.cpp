@@ -116,6 +116,7 @@ TEST_F(DeviceSelection, ChoosingLanAgainBringsTheAddressBack) {
     EXPECT_FALSE(frmMain.cmbHD.visible);
     EXPECT_EQ(frmMain.cmbHD.listIndex, -1);
     EXPECT_EQ(frmMain.cmbHD.listCount(), 2);
+    EXPECT_TRUE(frmMain.lblIP.visible);
     EXPECT_TRUE(frmMain.txtIP.visible);
     EXPECT_TRUE(frmMain.cmdShutdownPS2.visible);
     EXPECT_EQ(frmMain.cmdAttach.caption.get(), "Refresh PS2");
@@ -133,6 +134,13 @@ TEST_F(DeviceSelection, TheChosenDiskStaysChosenWhenLocalIsChosenAgain) {
     EXPECT_EQ(frmMain.cmbHD.listIndex, 1);
     EXPECT_TRUE(frmMain.mnuHDD[0].enabled);
     EXPECT_FALSE(frmMain.mnuHDD[1].enabled);
+}
+
+TEST_F(DeviceSelection, TheDiskChosenBehindAConsoleStaysChosenWhenTheConsoleIsRefreshed) {
+    ui::click(frmMain.cmdAttach);
+    frmMain.cmbHD.listIndex = 1;
+    ui::click(frmMain.cmdAttach);
+    EXPECT_EQ(frmMain.cmbHD.text(), "hdd2:  [37.3 GB]");
 }
 
 TEST_F(DeviceSelection, ChoosingADiskKeepsTheOldGameListOnView) {
@@ -191,6 +199,15 @@ TEST_F(DeviceSelection, LocalWithoutTheToolFallsBackToLan) {
     EXPECT_EQ(ports.dialogs.messageTexts(), QStringList(kToolMissing));
     EXPECT_TRUE(frmMain.optLAN.value);
     EXPECT_TRUE(commands().isEmpty());
+}
+
+TEST_F(DeviceSelection, ChoosingLocalGivesTheConsoleUp) {
+    ui::click(frmMain.cmdAttach);
+    ui::click(frmMain.optLocal);
+    EXPECT_EQ(frmMain.lstHD.count(), 0);
+    EXPECT_EQ(deviceGroup(), QStringList());
+    EXPECT_EQ(frmMain.lblDiskSpace.caption.get(), "(no active device)");
+    EXPECT_EQ(frmMain.picDiskSpace.drawing.get().text, "0%");
 }
 
 TEST_F(DeviceSelection, GoingBackToTheConsoleWhileTheDisksAreSoughtKeepsItsAddressOnView) {
@@ -276,6 +293,14 @@ TEST_F(DeviceSelection, EnterInTheAddressRefreshesWithoutABeep) {
     EXPECT_FALSE(ui::pressKey(frmMain.txtIP, 13)) << "the key is swallowed";
     EXPECT_EQ(commands(), QStringList({"query", "tarn_toc 192.168.0.10"}));
     EXPECT_TRUE(ui::pressKey(frmMain.txtIP, '1'));
+}
+
+TEST_F(DeviceSelection, EnterInTheAddressIsSwallowedEvenIfTheRefreshFails) {
+    ports.launcher.script = [](const QString&) -> std::optional<ChildScript> {
+        throw std::runtime_error("no process");
+    };
+    EXPECT_FALSE(ui::pressKey(frmMain.txtIP, 13));
+    EXPECT_EQ(ports.dialogs.messages.size(), 1u);
 }
 
 TEST_F(DeviceSelection, TheAddressIsNotTrimmed) {

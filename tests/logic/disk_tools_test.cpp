@@ -1,52 +1,12 @@
+#include "logic/disk_tools_fixture.h"
 #include "settings/disk_tools.h"
-#include "support/program_test.h"
 
 #include <gmock/gmock.h>
 
 namespace tarnwell::test {
 namespace {
 
-using testing::ElementsAre;
 using testing::HasSubstr;
-
-const QByteArray kDisks = "\thdd1:  114473MB, formatted Playstation 2 HDD\r\n"
-                          "\thdd2:  38146MB, unknown format\r\n";
-const QString kFormatted = "hdd1:  [111.8 GB] - Playstation2 Formatted";
-const QString kUnformatted = "hdd2:  [37.3 GB] - Unknown Format";
-const QString kAddress = "192.168.0.10";
-
-class DiskToolsTest : public ProgramTest {
-protected:
-    DiskToolsTest() {
-        start();
-        frmSettings.show();
-        frmSettings.TabStrip.selectedTab = ui::FrmSettings::kToolsTab;
-        frmSettings.fmTools.visible = true;
-    }
-
-    void list(const QByteArray& disks = kDisks) {
-        answerQueryWith(disks);
-        ASSERT_TRUE(ui::click(frmSettings.cmdRefresh));
-    }
-    void expectEnabled(bool format, bool table) {
-        EXPECT_EQ(frmSettings.cmdFormat.enabled, format);
-        EXPECT_EQ(frmSettings.cmdBackupTOC.enabled, table);
-        EXPECT_EQ(frmSettings.cmdRestoreTOC.enabled, table);
-    }
-    /// What happens while the tool carries out this command.
-    void during(const QString& command, const std::function<void()>& event) {
-        ports.launcher.on("tarnwell.exe " + command,
-                          ChildScript{.output = {{"Working\r\n"}}, .endsAtMs = 500});
-        ports.launcher.script = [this, command, event, usual = ports.launcher.script](const QString& line) {
-            if (line.contains("tarnwell.exe " + command))
-                ports.pump.after(100, event);
-            return usual(line);
-        };
-    }
-    QStringList questions() const { return ports.dialogs.questions; }
-
-    ui::FrmSettings& frmSettings = program.shared().frmSettings.untouched();
-};
 
 TEST_F(DiskToolsTest, NothingCanBeDoneBeforeTheDevicesAreListed) {
     EXPECT_EQ(frmSettings.cmbHD.listCount(), 0);
@@ -80,6 +40,14 @@ TEST_F(DiskToolsTest, WithoutDisksAndAddressEverythingIsOff) {
     list("");
     EXPECT_EQ(frmSettings.cmbHD.listCount(), 0);
     expectEnabled(false, false);
+}
+
+TEST_F(DiskToolsTest, RefreshAloneMakesTheFormatUsableAndTheChoiceTheTable) {
+    list("no disks\r\n");
+    EXPECT_EQ(frmSettings.cmbHD.items(), QStringList{kAddress});
+    expectEnabled(true, false);
+    list("\thdd2:  38146MB, unknown format\r\n");
+    expectEnabled(true, false);
 }
 
 TEST_F(DiskToolsTest, WithoutTheToolNothingIsAsked) {
@@ -166,6 +134,29 @@ TEST_F(DiskToolsTest, ADiskThatIsGoneAfterTheFormatLeavesNoChoiceBehind) {
     expectEnabled(false, false);
 }
 
+TEST_F(DiskToolsTest, TheLastEntryThatIsGoneAfterTheFormatGivesWayToTheFirst) {
+    list();
+    ui::choose(frmSettings.cmbHD, 2);
+    frmMain.txtIP.text = "";
+    ui::click(frmSettings.cmdFormat);
+    EXPECT_EQ(frmSettings.cmbHD.items(), (QStringList{kFormatted, kUnformatted}));
+    EXPECT_EQ(frmSettings.cmbHD.listIndex, 0);
+}
+
+TEST_F(DiskToolsTest, TheListIsReadAnewBeforeAnythingElseCanBeStarted) {
+    list();
+    bool looked = false;
+    during("query", [&] {
+        looked = true;
+        EXPECT_FALSE(frmMain.cmdExit.enabled);
+        EXPECT_FALSE(frmSettings.cmdRefresh.usable());
+        EXPECT_EQ(frmSettings.mousePointer, ui::MousePointer::Hourglass);
+    });
+    ui::click(frmSettings.cmdFormat);
+    EXPECT_TRUE(looked);
+    EXPECT_TRUE(frmMain.cmdExit.enabled);
+}
+
 TEST_F(DiskToolsTest, NothingElseCanBeStartedDuringAFormat) {
     list();
     bool looked = false;
@@ -197,129 +188,6 @@ TEST_F(DiskToolsTest, AFormatInTheMiddleOfOtherWorkLeavesTheMainWindowPaused) {
     EXPECT_FALSE(frmMain.cmdExit.enabled);
     guiSwitch.EnableGUI(true);
     EXPECT_TRUE(frmMain.cmdExit.enabled);
-}
-
-TEST_F(DiskToolsTest, SavingTheTableRunsTheToolOnTheLongFormOfTheDisk) {
-    list("\thdd10:  1024MB, formatted Playstation 2 HDD\r\n");
-    ports.dialogs.saveFileAnswers = {path("table.bak")};
-    ui::click(frmSettings.cmdBackupTOC);
-    ASSERT_EQ(ports.dialogs.saveFileRequests.size(), 1U);
-    const SaveFileRequest& asked = ports.dialogs.saveFileRequests[0];
-    EXPECT_EQ(asked.filter, "HDLoader TOC File (*.bak)|*.bak|");
-    EXPECT_EQ(asked.fileName, "tarntoc.bak");
-    EXPECT_EQ(asked.folder, program.shared().config.AppFolder());
-    EXPECT_TRUE(asked.askBeforeOverwriting);
-    EXPECT_EQ(commands().last(), "backup_toc hdd10: " + path("table.bak"));
-    EXPECT_TRUE(ports.ping.echoes.empty());
-}
-
-TEST_F(DiskToolsTest, AFileNameWithABlankGoesInQuotes) {
-    list();
-    ports.dialogs.saveFileAnswers = {path("my table.bak")};
-    ui::click(frmSettings.cmdBackupTOC);
-    EXPECT_EQ(commands().last(), "backup_toc hdd1: \"" + path("my table.bak") + '"');
-}
-
-TEST_F(DiskToolsTest, AChosenFileIsDeletedBeforeTheToolRuns) {
-    list();
-    writeFile("table.bak", "old");
-    ports.dialogs.saveFileAnswers = {path("table.bak")};
-    bool there = true;
-    during("backup_toc", [&] { there = QFile::exists(path("table.bak")); });
-    ui::click(frmSettings.cmdBackupTOC);
-    EXPECT_FALSE(there);
-}
-
-TEST_F(DiskToolsTest, CancellingTheSaveDialogLeavesEverythingAlone) {
-    list();
-    writeFile("tarntoc.bak", "old");
-    ui::click(frmSettings.cmdBackupTOC);
-    EXPECT_TRUE(QFile::exists(path("tarntoc.bak")));
-    EXPECT_EQ(commands(), QStringList{"query"});
-    EXPECT_TRUE(ports.dialogs.messages.empty());
-}
-
-TEST_F(DiskToolsTest, AFileThatCannotBeReplacedIsToldAndNothingRuns) {
-    list();
-    ports.dialogs.saveFileAnswers = {ports.folders.folder};
-    ui::click(frmSettings.cmdBackupTOC);
-    EXPECT_THAT(lastMessage().toStdString(), HasSubstr("cannot be replaced"));
-    EXPECT_EQ(commands(), QStringList{"query"});
-    EXPECT_TRUE(frmMain.cmdExit.enabled);
-}
-
-TEST_F(DiskToolsTest, WithAnAddressAloneTheTableGoesToTheConsole) {
-    list("no disks\r\n");
-    EXPECT_EQ(frmSettings.cmbHD.items(), QStringList{kAddress});
-    ui::choose(frmSettings.cmbHD, 0);
-    ports.dialogs.saveFileAnswers = {path("table.bak")};
-    ui::click(frmSettings.cmdBackupTOC);
-    EXPECT_EQ(commands().last(), "backup_toc 192.168.0.10 " + path("table.bak"));
-    EXPECT_EQ(ports.ping.echoes.size(), 1U);
-}
-
-TEST_F(DiskToolsTest, TheLastEntryMeansTheAddressThatStandsThereNow) {
-    list();
-    ui::choose(frmSettings.cmbHD, 2);
-    frmMain.txtIP.text = "10.0.0.7";
-    ports.dialogs.openFileAnswers = {path("table.bak")};
-    ui::click(frmSettings.cmdRestoreTOC);
-    EXPECT_EQ(commands().last(), "restore_toc 10.0.0.7 " + path("table.bak"));
-}
-
-TEST_F(DiskToolsTest, AConsoleThatDoesNotAnswerIsToldBeforeAnyDialog) {
-    list();
-    ui::choose(frmSettings.cmbHD, 2);
-    ports.ping.reply.status = FakePing::kTimedOut;
-    for (ui::Button* button : {&frmSettings.cmdBackupTOC, &frmSettings.cmdRestoreTOC}) {
-        ui::click(*button);
-        EXPECT_EQ(lastMessage(),
-                  "A PS2 console could not be found at IP address: 192.168.0.10\r\n\r\n"
-                  "Verify the following:\r\n\r\n"
-                  "1. The PS2 console is currently running tarnd_svr.elf and it is fully initialized.\r\n"
-                  "2. The IP address you entered matches the IP address configured in "
-                  "mc0:SYS-CONF/IPCONFIG.DAT");
-    }
-    EXPECT_EQ(commands(), QStringList{"query"});
-    EXPECT_TRUE(ports.dialogs.saveFileRequests.empty());
-    EXPECT_TRUE(questions().isEmpty());
-}
-
-TEST_F(DiskToolsTest, ALoneDiskWithoutAnAddressIsTakenForTheConsole) {
-    frmMain.txtIP.text = "";
-    list("\thdd1:  114473MB, formatted Playstation 2 HDD\r\n");
-    ASSERT_EQ(frmSettings.cmbHD.items(), QStringList{kFormatted});
-    ui::click(frmSettings.cmdBackupTOC);
-    EXPECT_THAT(lastMessage().toStdString(), HasSubstr("at IP address: \r\n"));
-    EXPECT_TRUE(ports.dialogs.saveFileRequests.empty());
-}
-
-TEST_F(DiskToolsTest, RestoringAsksFirst) {
-    list();
-    ports.dialogs.questionAnswer = false;
-    ui::click(frmSettings.cmdRestoreTOC);
-    EXPECT_THAT(questions(), ElementsAre("Are you sure you want to do this?"));
-    EXPECT_EQ(ports.dialogs.lastQuestion.icon, MessageIcon::Exclamation);
-    EXPECT_EQ(ports.dialogs.lastQuestion.title, program.shared().title);
-    EXPECT_TRUE(ports.dialogs.openFileRequests.empty());
-}
-
-TEST_F(DiskToolsTest, RestoringTakesAFileThatExists) {
-    list();
-    ports.dialogs.openFileAnswers = {path("my table.bak")};
-    ui::click(frmSettings.cmdRestoreTOC);
-    ASSERT_EQ(ports.dialogs.openFileRequests.size(), 1U);
-    const OpenFileRequest& asked = ports.dialogs.openFileRequests[0];
-    EXPECT_EQ(asked.filter, "HDLoader TOC File (*.bak)|*.bak|All Files (*.*)|*.*|");
-    EXPECT_EQ(asked.folder, program.shared().config.AppFolder());
-    EXPECT_TRUE(asked.mustExist);
-    EXPECT_EQ(commands().last(), "restore_toc hdd1: \"" + path("my table.bak") + '"');
-}
-
-TEST_F(DiskToolsTest, CancellingTheOpenDialogRestoresNothing) {
-    list();
-    ui::click(frmSettings.cmdRestoreTOC);
-    EXPECT_EQ(commands(), QStringList{"query"});
 }
 
 TEST_F(DiskToolsTest, TheEndOfTheProgramInTheMiddleOfAFormatEndsItThere) {

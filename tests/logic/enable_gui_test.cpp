@@ -1,6 +1,6 @@
-#include "app/enable_gui.h"
 #include "support/gtest_qt.h"
 #include "ui/frm_main.h"
+#include "work/enable_gui.h"
 
 #include <gtest/gtest.h>
 

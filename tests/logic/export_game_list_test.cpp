@@ -50,20 +50,29 @@ TEST_F(ExportGameList, AsksForTheFileAndForTheFormat) {
 
 TEST_F(ExportGameList, TheFormatGoesBehindThePaddedName) {
     listGames(
-        {{.name = "Ratchet", .flags = "+1+3"}, {.name = "Ico", .type = "CD", .startup = "SCUS_971.13"}});
-    EXPECT_EQ(exported(" %size%tab%type"), "1. Ratchet  4.00GB\tDVD\r\n2. Ico      4.00GB\tCD\r\n");
+        {{.name = "Lantern", .flags = "+1+3"}, {.name = "Fen", .type = "CD", .startup = "SCUS_990.13"}});
+    EXPECT_EQ(exported(" %size%tab%type"), "1. Lantern  4.00GB\tDVD\r\n2. Fen      4.00GB\tCD\r\n");
     EXPECT_EQ(exported("|%startup|%flags|%startup"),
-              "1. Ratchet |SLUS_200.71|+1+3|SLUS_200.71\r\n2. Ico     |SCUS_971.13||SCUS_971.13\r\n");
+              "1. Lantern |SLUS_990.71|+1+3|SLUS_990.71\r\n2. Fen     |SCUS_990.13||SCUS_990.13\r\n");
 }
 
 TEST_F(ExportGameList, WordsAreKnownByTheirCaseAndOthersStay) {
-    list({"Ico"});
-    EXPECT_EQ(exported("%Size %name %"), "1. Ico %Size %name %\r\n");
+    list({"Fen"});
+    EXPECT_EQ(exported("%Size %name %"), "1. Fen %Size %name %\r\n");
 }
 
 TEST_F(ExportGameList, AWordInTheNameOfAGameIsReplacedToo) {
-    list({"Ico %startup"});
-    EXPECT_EQ(exported("%type"), "1. Ico SLUS_200.71 DVD\r\n");
+    list({"Fen %startup"});
+    EXPECT_EQ(exported("%type"), "1. Fen SLUS_990.71 DVD\r\n");
+}
+
+TEST_F(ExportGameList, WhatReplacesAWordMayHoldALaterWordButNoEarlierOne) {
+    frmMain.lstHD.clear();
+    frmMain.lstHD.append({.text = "Fen", .subItems = {"%size", "%type", "%flags", "%tab"}});
+    EXPECT_EQ(exported("|%startup|"), "1. Fen |\t|\r\n");
+    frmMain.lstHD.clear();
+    frmMain.lstHD.append({.text = "Fen", .subItems = {"S", "%startup", "%size", "%type"}});
+    EXPECT_EQ(exported("%size %type %flags"), "1. Fen %startup %size %type\r\n");
 }
 
 TEST_F(ExportGameList, NumbersHaveAsManyDigitsAsTheLast) {
@@ -86,8 +95,8 @@ TEST_F(ExportGameList, ANameOneCharacterLongerThanTheLongestSoFarGetsNoBlank) {
 }
 
 TEST_F(ExportGameList, ACancelledFormatLeavesNumbersAndNames) {
-    list({"Ratchet", "Ico"});
-    EXPECT_EQ(exported(std::nullopt), "1. Ratchet \r\n2. Ico     \r\n");
+    list({"Lantern", "Fen"});
+    EXPECT_EQ(exported(std::nullopt), "1. Lantern \r\n2. Fen     \r\n");
 }
 
 TEST_F(ExportGameList, ACancelledFileDialogChangesNothing) {
@@ -112,6 +121,22 @@ TEST_F(ExportGameList, AnOldFileIsGoneBeforeTheFormatIsAskedFor) {
     EXPECT_EQ(contents("games2.txt"), "another");
 }
 
+TEST_F(ExportGameList, AnOldFileIsBackIfTheProgramEndsBeforeTheNewOneIsWritten) {
+    writeFile("games.txt", "old");
+    ports.dialogs.whileOpen = [&] {
+        if (!ports.dialogs.inputs.empty())
+            ports.pump.end();
+    };
+    EXPECT_EQ(exported(""), "old");
+    EXPECT_EQ(QDir(ports.folders.folder).entryList({"games*"}), QStringList("games.txt"));
+}
+
+TEST_F(ExportGameList, NothingIsLeftOfAnOldFile) {
+    writeFile("games.txt", "old");
+    exported("");
+    EXPECT_EQ(QDir(ports.folders.folder).entryList({"games*"}), QStringList("games.txt"));
+}
+
 TEST_F(ExportGameList, AnEmptyListGivesAnEmptyFile) {
     writeFile("games.txt", "old");
     frmMain.lstHD.clear();
@@ -128,15 +153,15 @@ TEST_F(ExportGameList, AFileThatCannotBeWrittenGoesUnnoticed) {
 }
 
 TEST_F(ExportGameList, TheTextIsInTheCodePageOfTheSystem) {
-    const QString name = QString::fromUtf8("P\xc3\xa9rsona");
+    const QString name = QString::fromUtf8("P\xc3\xa9rgola");
     list({name});
     EXPECT_EQ(exported(""), ("1. " + name + " \r\n").toLocal8Bit());
 }
 
 TEST_F(ExportGameList, LongNamesWithQuotesArePaddedLikeAnyOther) {
-    list({"Ico", kLongName});
+    list({"Fen", kLongName});
     EXPECT_EQ(exported("|"),
-              ("1. Ico" + QString(kLongName.size() + 1 - 3, ' ') + "|\r\n2. " + kLongName + " |\r\n")
+              ("1. Fen" + QString(kLongName.size() + 1 - 3, ' ') + "|\r\n2. " + kLongName + " |\r\n")
                   .toLocal8Bit());
 }
 

@@ -9,7 +9,7 @@ class GameListTest : public ProgramTest {
 protected:
     struct Game {
         QString name;
-        QString type{"DVD"}, size{"4193280KB"}, flags{}, startup{"SLUS_200.71"};
+        QString type{"DVD"}, size{"4193280KB"}, flags{}, startup{"SLUS_990.71"};
     };
 
     GameListTest() {
@@ -79,7 +79,7 @@ protected:
 
     /// As far as the system's 8-bit code page has its letters: no others come from the tool.
     static inline const QString kLongName = QString::fromLocal8Bit(
-        (QString::fromUtf8("P\xc3\xa9rs\xc5\x8dna ").repeated(40) + "\"quoted\"").toLocal8Bit());
+        (QString::fromUtf8("P\xc3\xa9rg\xc5\x8dla ").repeated(40) + "\"quoted\"").toLocal8Bit());
 
 private:
     qsizetype commandsBefore_ = 0;

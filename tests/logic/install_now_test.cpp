@@ -1,4 +1,4 @@
-#include "app/fault.h"
+#include "base/fault.h"
 #include "support/program_test.h"
 #include "workflows/free_space.h"
 
@@ -13,14 +13,14 @@ struct InstallNow : ProgramTest {
     InstallNow() {
         answerQueryWith(kTwoDisks);
         answerTocWith(kTwoGames);
-        answerDiscInfoWith("DVD 4193280KB \"RATCHET\" \"SLUS_200.71\"\r\n");
+        answerDiscInfoWith("DVD 4193280KB \"LANTERN\" \"SLUS_990.71\"\r\n");
         answerInstallWith({.output = {{"1%, 12 min remaining, 3.50 MB/sec\r", 100},
                                       {"50%, 6 min remaining, 4.00 MB/sec\r", 2000},
                                       {"100%, 0 sec remaining, 4.00 MB/sec\r", 4000}},
                            .endsAtMs = 4100});
         start();
         ui::click(frmMain.cmdAttach);
-        ports.dialogs.openFileAnswers.push_back("/games/ratchet.iso");
+        ports.dialogs.openFileAnswers.push_back("/games/lantern.iso");
         ui::click(frmMain.cmdISO);
     }
 
@@ -60,9 +60,9 @@ TEST(RoundUp128, KnowsNoUnitsBeyondItsNumbers) {
 }
 
 TEST_F(InstallNow, InstallsAndFindsTheGameInTheRefreshedList) {
-    answerTocWith(kTwoGames + "DVD  4193280KB                SLUS_200.71 @@@RATCHET\r\n");
+    answerTocWith(kTwoGames + "DVD  4193280KB                SLUS_990.71 @@@LANTERN\r\n");
     ui::click(frmMain.cmdInstall);
-    EXPECT_EQ(installCommand(), "inject_dvd 192.168.0.10 RATCHET /games/ratchet.iso SLUS_200.71");
+    EXPECT_EQ(installCommand(), "inject_dvd 192.168.0.10 LANTERN /games/lantern.iso SLUS_990.71");
     EXPECT_EQ(commands().last(), "tarn_toc 192.168.0.10");
     EXPECT_EQ(frmMain.lstHD.count(), 3);
     EXPECT_TRUE(ports.dialogs.messages.empty());
@@ -73,7 +73,7 @@ TEST_F(InstallNow, TheStatusWindowFollowsTheJob) {
         EXPECT_TRUE(frmStatus->shown());
         EXPECT_FALSE(frmMain.shown());
         EXPECT_EQ(frmMain.mnuMinimize.caption.get(), "Maximize");
-        EXPECT_EQ(frmStatus->lblJob.caption.get(), "Installing RATCHET");
+        EXPECT_EQ(frmStatus->lblJob.caption.get(), "Installing LANTERN");
         EXPECT_EQ(frmStatus->lblTask.caption.get(), "Currently on Job 1 of 1");
         EXPECT_EQ(frmStatus->picCurrent.drawing.get().text, "50%");
         EXPECT_EQ(frmStatus->picOverall.drawing.get().text, "50%");
@@ -103,8 +103,8 @@ TEST_F(InstallNow, TheStatusWindowIsCentredOverTheMainWindow) {
 
 TEST_F(InstallNow, BalloonsTellOfTheStartAndTheEnd) {
     ui::click(frmMain.cmdInstall);
-    EXPECT_EQ(balloons(), QStringList({"Installing RATCHET", "Installing [RATCHET] to [192.168.0.10]",
-                                       "Installation of RATCHET complete!"}));
+    EXPECT_EQ(balloons(), QStringList({"Installing LANTERN", "Installing [LANTERN] to [192.168.0.10]",
+                                       "Installation of LANTERN complete!"}));
     EXPECT_EQ(ports.tray.balloons[0].title, "Tarnwell GUI");
 }
 
@@ -178,7 +178,7 @@ TEST_F(InstallNow, ASizeThatWasNeverReadIsToldAndStartsNothing) {
     EXPECT_EQ(installCommand(), "");
     EXPECT_TRUE(frmMain.shown());
     EXPECT_TRUE(frmMain.cmdInstall.enabled);
-    EXPECT_EQ(frmMain.txtISO.text.get(), "/games/ratchet.iso");
+    EXPECT_EQ(frmMain.txtISO.text.get(), "/games/lantern.iso");
 }
 
 TEST_F(InstallNow, ASizeBeyondAllDisksIsToldAndStartsNothing) {
@@ -191,12 +191,12 @@ TEST_F(InstallNow, ASizeBeyondAllDisksIsToldAndStartsNothing) {
 }
 
 TEST_F(InstallNow, NamesWithBlanksAreQuotedAndTheStartupFileNever) {
-    frmMain.txtISO.text = QString("/my games/ratchet.iso");
-    ui::type(frmMain.txtGameName, "Ratchet and Clank");
-    ui::type(frmMain.txtGameStartup, "SLUS 200.71");
+    frmMain.txtISO.text = QString("/my games/lantern.iso");
+    ui::type(frmMain.txtGameName, "Lantern and Quill");
+    ui::type(frmMain.txtGameStartup, "SLUS 990.71");
     ui::click(frmMain.cmdInstall);
     EXPECT_EQ(installCommand(),
-              "inject_dvd 192.168.0.10 \"Ratchet and Clank\" \"/my games/ratchet.iso\" SLUS 200.71");
+              "inject_dvd 192.168.0.10 \"Lantern and Quill\" \"/my games/lantern.iso\" SLUS 990.71");
 }
 
 TEST_F(InstallNow, FlagsWithoutAStartupFileKeepTheirPlaceByTwoQuotes) {
@@ -204,18 +204,18 @@ TEST_F(InstallNow, FlagsWithoutAStartupFileKeepTheirPlaceByTwoQuotes) {
     ui::click(frmMain.mnuFlags[2]);
     ui::type(frmMain.txtGameStartup, "");
     ui::click(frmMain.cmdInstall);
-    EXPECT_EQ(installCommand(), "inject_dvd 192.168.0.10 RATCHET /games/ratchet.iso \"\" +1+3");
+    EXPECT_EQ(installCommand(), "inject_dvd 192.168.0.10 LANTERN /games/lantern.iso \"\" +1+3");
 }
 
 TEST_F(InstallNow, NeitherFlagsNorStartupLeaveNoBlankAtTheEnd) {
     ui::type(frmMain.txtGameStartup, "");
     frmMain.cmbType.listIndex = 0;
     ui::click(frmMain.cmdInstall);
-    EXPECT_EQ(installCommand(), "inject_cd 192.168.0.10 RATCHET /games/ratchet.iso");
+    EXPECT_EQ(installCommand(), "inject_cd 192.168.0.10 LANTERN /games/lantern.iso");
 }
 
 TEST_F(InstallNow, ALongNameInAnyAlphabetArrivesWhole) {
-    const QString name = QString::fromUtf8("P\xc3\xa9rs\xc5\x8dna ").repeated(40) + "\"quoted\"";
+    const QString name = QString::fromUtf8("P\xc3\xa9rg\xc5\x8dla ").repeated(40) + "\"quoted\"";
     ui::type(frmMain.txtGameName, name);
     ui::click(frmMain.cmdInstall);
     EXPECT_TRUE(installCommand().contains('"' + name + '"'));
@@ -224,9 +224,9 @@ TEST_F(InstallNow, ALongNameInAnyAlphabetArrivesWhole) {
 TEST_F(InstallNow, ALocalDiskGoesByItsFirstFiveCharacters) {
     ui::click(frmMain.optLocal);
     ui::click(frmMain.cmdAttach);
-    frmMain.txtISO.text = QString("/games/ratchet.iso");
+    frmMain.txtISO.text = QString("/games/lantern.iso");
     ui::click(frmMain.cmdInstall);
-    EXPECT_TRUE(installCommand().startsWith("inject_dvd hdd1: RATCHET"));
+    EXPECT_TRUE(installCommand().startsWith("inject_dvd hdd1: LANTERN"));
     EXPECT_EQ(commands().last(), "tarn_toc hdd1:");
     EXPECT_FALSE(frmStatus->chkShutdownPS2.enabled);
 }
@@ -236,7 +236,7 @@ TEST_F(InstallNow, AnOpticalDriveGoesByTheSystemsNameOrElseTheTools) {
     ui::click(frmMain.optOptical);
     frmMain.cmbOptical.tag = QString("0,");
     ui::click(frmMain.cmdInstall);
-    EXPECT_EQ(installCommand(), "inject_dvd 192.168.0.10 RATCHET cd0: SLUS_200.71");
+    EXPECT_EQ(installCommand(), "inject_dvd 192.168.0.10 LANTERN cd0: SLUS_990.71");
 }
 
 TEST_F(InstallNow, ADriveThatTheLastQueryDoesNotKnowStartsNothing) {
@@ -332,7 +332,7 @@ TEST_F(InstallNow, CancelBeforeTheFirstOutputStartsTheToolAnewTwoSecondsLater) {
 TEST_F(InstallNow, AFailedInstallEndsLikeASuccessfulOne) {
     answerInstallWith({.output = {{"not enough free space.\r\n", 100}}, .endsAtMs = 200});
     ui::click(frmMain.cmdInstall);
-    EXPECT_EQ(balloons().last(), "Installation of RATCHET complete!");
+    EXPECT_EQ(balloons().last(), "Installation of LANTERN complete!");
     EXPECT_FALSE(program.shared().blnInstallRunning);
     EXPECT_EQ(commands().last(), "tarn_toc 192.168.0.10");
 }
@@ -350,7 +350,7 @@ TEST_F(InstallNow, AnInstallThatBreaksOffLeavesTheWindowUsable) {
 TEST_F(InstallNow, AToolThatSaysNothingIsToldAndTheWindowComesToItself) {
     answerInstallWith({});
     ui::click(frmMain.cmdInstall);
-    EXPECT_TRUE(lastMessage().startsWith("An unknown error has occurred."));
+    EXPECT_TRUE(ports.dialogs.messageTexts().value(0).startsWith("An unknown error has occurred."));
     EXPECT_TRUE(frmMain.cmdAttach.enabled);
     EXPECT_FALSE(frmStatus->shown());
 }

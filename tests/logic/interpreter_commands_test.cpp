@@ -1,4 +1,3 @@
-#include "app/fault.h"
 #include "interpreter/tool_commands.h"
 #include "interpreter_fixture.h"
 
@@ -30,24 +29,6 @@ TEST_F(ToolCommands, KeepTheColonOfATwoDigitDiskInTheLongFormOnly) {
     EXPECT_EQ(LocalDeviceLong("no colon"), "");
 }
 
-TEST_F(ToolCommands, TakeTheDeviceFromTheChosenMode) {
-    form.txtIP.text = " 10.0.0.1 ";
-    form.cmbHD.addItem("hdd10:  [1.0 GB]");
-    form.cmbHD.listIndex = 0;
-    EXPECT_EQ(ActiveDeviceLong(form), " 10.0.0.1 ");
-    EXPECT_EQ(ActiveDeviceShort(form), " 10.0.0.1 ");
-    form.optLocal.value = true;
-    EXPECT_EQ(ActiveDeviceLong(form), "hdd10:");
-    EXPECT_EQ(ActiveDeviceShort(form), "hdd10");
-}
-
-TEST_F(ToolCommands, NameTheTickedFlags) {
-    EXPECT_EQ(FlagsWord(form), "");
-    for (const std::size_t i : {0u, 2u, 7u})
-        form.mnuFlags[i].checked = true;
-    EXPECT_EQ(FlagsWord(form), "+1+3+8");
-}
-
 TEST_F(ToolCommands, SpellOutAnInstallation) {
     EXPECT_EQ(InstallCommand(kPlain), "inject_dvd hdd1: Game C:\\Game.iso SLUS_123.45 +1+3");
 }
@@ -76,10 +57,39 @@ TEST_F(ToolCommands, EndWithoutBlanks) {
 
 TEST_F(ToolCommands, InstallEverythingButADvdAsACd) {
     Installation game = kPlain;
-    for (const char* type : {"CD-ROM", "DVD", ""}) {
+    for (const char* type : {"CD-ROM", "DVD", "DVD-ROM 9", ""}) {
         game.type = type;
         EXPECT_TRUE(InstallCommand(game).startsWith("inject_cd ")) << type;
     }
+}
+
+TEST_F(ToolCommands, CopyEverythingButADvdAsACd) {
+    EXPECT_TRUE(CopyToDeviceCommand("DVD", "hdd2:", "Game", "hdd1:").startsWith("inject_dvd "));
+    for (const char* type : {"CD", "DVD-ROM", "DVD9", "XDVD", "dvd", ""})
+        EXPECT_TRUE(CopyToDeviceCommand(type, "hdd2:", "Game", "hdd1:").startsWith("inject_cd ")) << type;
+}
+
+TEST_F(ToolCommands, QuoteADeviceWithABlankInInstallationsAndCopies) {
+    Installation game = kPlain;
+    game.device = "my ps2";
+    EXPECT_EQ(InstallCommand(game), "inject_dvd \"my ps2\" Game C:\\Game.iso SLUS_123.45 +1+3");
+    EXPECT_EQ(CopyToFileCommand("my ps2", "My Game", "C:\\My Game.iso"),
+              "extract \"my ps2\" \"My Game\" \"C:\\My Game.iso\"");
+    EXPECT_EQ(CopyToDeviceCommand("CD", "your ps2", "My Game", "hdd1:"),
+              "inject_cd \"your ps2\" \"My Game\" \"My Game@hdd1:\"");
+    EXPECT_EQ(CopyToDeviceCommand("CD", "hdd2:", "Game", "my ps2"), "inject_cd hdd2: Game \"Game@my ps2\"");
+}
+
+TEST_F(ToolCommands, LeaveADeviceOrDriveWithABlankBareElsewhere) {
+    EXPECT_EQ(GameListCommand("my ps2"), "tarn_toc my ps2");
+    EXPECT_EQ(DriveInfoCommand("my drive"), "cdvd_info2 my drive");
+    EXPECT_EQ(MakeImageCommand("my drive", "C:\\My Game.iso"), "dump my drive \"C:\\My Game.iso\"");
+    EXPECT_EQ(DeleteCommand("my ps2", "My Game"), "delete my ps2 \"My Game\"");
+    EXPECT_EQ(RenameCommand("my ps2", "My Game", "My Other"), "modify my ps2 \"My Game\" \"My Other\"");
+    EXPECT_EQ(PowerOffCommand("my ps2"), "poweroff my ps2");
+    EXPECT_EQ(FormatCommand("my hdd"), "initialize my hdd");
+    EXPECT_EQ(BackupTocCommand("my hdd", "C:\\my toc"), "backup_toc my hdd \"C:\\my toc\"");
+    EXPECT_EQ(RestoreTocCommand("my hdd", "C:\\my toc"), "restore_toc my hdd \"C:\\my toc\"");
 }
 
 TEST_F(ToolCommands, QuoteEveryImageThatIsAskedAbout) {
@@ -91,19 +101,6 @@ TEST_F(ToolCommands, NameTheDeviceAsItIs) {
     EXPECT_EQ(QueryCommand(), "query");
     EXPECT_EQ(GameListCommand("hdd1:"), "tarn_toc hdd1:");
     EXPECT_EQ(PowerOffCommand("10.0.0.1 "), "poweroff 10.0.0.1 ");
-}
-
-TEST_F(ToolCommands, GiveTheSystemsDriveWhereItIsKnown) {
-    form.cmbOptical.tag = "D:,0,F:,";
-    EXPECT_EQ(ResolveOpticalDrive(form, "cd0:  [4.38GB]"), "D:");
-    EXPECT_EQ(ResolveOpticalDrive(form, "cd1:  [4.38GB]"), "cd1:");
-    EXPECT_EQ(ResolveOpticalDrive(form, "cd2:  [4.38GB]"), "F:");
-}
-
-TEST_F(ToolCommands, RefuseADriveThatTheLastQueryDoesNotKnow) {
-    EXPECT_THROW(ResolveOpticalDrive(form, "cd0:  [4.38GB]"), Fault);
-    form.cmbOptical.tag = "D:,";
-    EXPECT_THROW(ResolveOpticalDrive(form, "cd5:  [4.38GB]"), Fault);
 }
 
 } // namespace

@@ -7,6 +7,8 @@ const char kTwoDisks[] = "\thdd1:  114473 MB, formatted Playstation 2 HDD\r\n"
                          "\thdd2:   38166 MB, unknown format\r\n"
                          "\thdd3:  238475 MB, formatted Playstation 2 HDD\r\n";
 
+const char kOneDisk[] = "\thdd1:  114473 MB, formatted Playstation 2 HDD\r\n";
+
 class DeviceStage : public InterpreterTest {
 protected:
     void queryDisks(const QString& answer) {
@@ -40,9 +42,24 @@ TEST_F(DeviceStage, OffersTheDisksAsCopyTargetsButTheOneInUse) {
         EXPECT_FALSE(form.mnuHDD[i].visible) << i;
 }
 
-TEST_F(DeviceStage, OffersEveryDiskAsCopyTargetOfAConsole) {
+TEST_F(DeviceStage, OffersNoCopyTargetBesideASingleDisk) {
+    form.optLocal.value = true;
+    queryDisks(kOneDisk);
+    EXPECT_TRUE(form.mnuHDD[0].visible);
+    EXPECT_FALSE(form.mnuHDD[0].enabled);
+    for (std::size_t i = 1; i < form.mnuHDD.size(); ++i)
+        EXPECT_FALSE(form.mnuHDD[i].visible) << i;
+}
+
+TEST_F(DeviceStage, OffersACopyTargetAgainThatWasGreyedOrHidden) {
+    form.optLocal.value = true;
+    queryDisks(kOneDisk);
+    form.optLAN.value = true;
     queryDisks(kTwoDisks);
-    EXPECT_TRUE(form.mnuHDD[0].enabled);
+    for (const std::size_t i : {0u, 1u}) {
+        EXPECT_TRUE(form.mnuHDD[i].visible) << i;
+        EXPECT_TRUE(form.mnuHDD[i].enabled) << i;
+    }
 }
 
 TEST_F(DeviceStage, ListsASixthDiskWithoutACopyTarget) {
@@ -54,10 +71,10 @@ TEST_F(DeviceStage, ListsASixthDiskWithoutACopyTarget) {
     EXPECT_EQ(form.mnuHDD[4].caption.get(), "hdd5:  [1.0 GB]");
 }
 
-TEST_F(DeviceStage, LeavesTheCopyTargetsVisibleWhenThereIsNoDisk) {
+TEST_F(DeviceStage, OffersNoCopyTargetWhenThereIsNoDisk) {
     queryDisks("\thdd1:  1024 MB, unknown format\r\n");
     EXPECT_EQ(form.cmbHD.listCount(), 0);
-    EXPECT_TRUE(form.mnuHDD[0].visible);
+    EXPECT_FALSE(form.mnuHDD[0].visible);
 }
 
 TEST_F(DeviceStage, BoundsTheSizeByTheLastMb) {
@@ -70,6 +87,11 @@ TEST_F(DeviceStage, ReadsTheWholeNumberWhetherItTouchesItsUnitOrNot) {
     queryDisks("\thdd1:  20480MB, formatted Playstation 2 HDD\r\n"
                "\thdd2:  20480 MB, formatted Playstation 2 HDD");
     EXPECT_EQ(form.cmbHD.items(), (QStringList{"hdd1:  [20.0 GB]", "hdd2:  [20.0 GB]"}));
+}
+
+TEST_F(DeviceStage, ReadsTheWholeNumberBehindASingleBlank) {
+    queryDisks("\thdd1: 20480MB, formatted Playstation 2 HDD");
+    EXPECT_EQ(form.cmbHD.items(), QStringList{"hdd1:  [20.0 GB]"});
 }
 
 TEST_F(DeviceStage, ShowsADiskWithoutANumberAsEmpty) {
@@ -102,6 +124,14 @@ TEST_F(DeviceStage, AddsToTheDisksOfTheSettingsWindow) {
     EXPECT_EQ(disks.listIndex, 0);
 }
 
+TEST_F(DeviceStage, TakesOnlyNamesBehindATabForDisksOfTheSettingsWindow) {
+    shared.blnQuerySettings = true;
+    read("  hdd1:  1024 MB, formatted Playstation 2 HDD\r\n"
+         "\tcd0:  700 MB\r\n"
+         "\thdd2:  1024 MB, unknown format\r\n");
+    EXPECT_EQ(shared.frmSettings->cmbHD.items(), QStringList{"hdd2:  [1.0 GB] - Unknown Format"});
+}
+
 TEST_F(DeviceStage, EndsTheQueryOnAnEmptyAnswer) {
     queryDisks("");
     EXPECT_FALSE(shared.blnQueryHD);
@@ -114,6 +144,28 @@ TEST_F(DeviceStage, ListsDrivesWithADisc) {
     EXPECT_EQ(form.cmbOptical.listIndex, -1);
     EXPECT_FALSE(shared.blnQueryOptical);
     EXPECT_TRUE(messages().isEmpty());
+}
+
+TEST_F(DeviceStage, TakesASizeThatTouchesItsUnitForNoDisc) {
+    queryDrives("\tcd0:  4482MB\r\n\tcd1:  700 MB\r\n");
+    EXPECT_EQ(form.cmbOptical.items(), QStringList{"cd1:  [.68GB]"});
+}
+
+TEST_F(DeviceStage, TakesOnlyTheToolsOwnNamesBehindATabForDrives) {
+    queryDrives("\thdd1:  1024 MB, formatted Playstation 2 HDD\r\n"
+                "  cd0:  700 MB\r\n"
+                "\tcd1:  700 MB\r\n"
+                "via SPTI:\r\n"
+                "\tD:  700 MB\r\n");
+    EXPECT_EQ(form.cmbOptical.items(), QStringList{"cd1:  [.68GB]"});
+}
+
+TEST_F(DeviceStage, MapsNoLineInFrontOfTheHeaderOfTheMap) {
+    form.cmbOptical.tag = "old,";
+    queryDrives("via ASPI:\r\nnot SPTI:\r\n\tC:  700 MB\r\n\tcd0:\r\n");
+    EXPECT_EQ(form.cmbOptical.tag.get(), "old,");
+    queryDrives("via ASPI:\r\n\tC:  700 MB\r\nvia SPTI:\r\n\tD:\r\n\tE:  700 MB\r\nno more drives");
+    EXPECT_EQ(form.cmbOptical.tag.get(), "0,E:,");
 }
 
 TEST_F(DeviceStage, MapsTheDrivesToTheSystemsLetters) {
@@ -138,19 +190,31 @@ TEST_F(DeviceStage, GoesBackToImagesWhenNoDriveHoldsADisc) {
     EXPECT_FALSE(shared.blnQueryOptical);
 }
 
+TEST_F(DeviceStage, HasGoneBackToImagesWhenItTellsOfMissingDiscs) {
+    form.optOptical.value = true;
+    bool images = false;
+    bool stillAsked = false;
+    outside.dialogs.whileOpen = [&] {
+        images = form.optISO.value;
+        stillAsked = shared.blnQueryOptical;
+    };
+    queryDrives("");
+    EXPECT_TRUE(images);
+    EXPECT_TRUE(stillAsked);
+}
+
 TEST_F(DeviceStage, SaysNothingOfMissingDiscsWhileImagesAreTheSource) {
     queryDrives("");
     EXPECT_TRUE(messages().isEmpty());
     EXPECT_FALSE(shared.blnQueryOptical);
 }
 
-TEST_F(DeviceStage, EmptiesTheCopyTargetsOnADriveQuery) {
+TEST_F(DeviceStage, EmptiesAndHidesTheCopyTargetsOnADriveQuery) {
     queryDisks(kTwoDisks);
     queryDrives("\tcd0:  4482 MB\r\n");
     EXPECT_EQ(form.mnuHDD[0].caption.get(), "");
-    EXPECT_TRUE(form.mnuHDD[0].visible);
-    EXPECT_TRUE(form.mnuHDD[1].visible);
-    EXPECT_FALSE(form.mnuHDD[2].visible);
+    for (const ui::MenuEntry& target : form.mnuHDD)
+        EXPECT_FALSE(target.visible) << target.name.toStdString();
     EXPECT_EQ(form.cmbHD.listCount(), 2);
 }
 

@@ -104,6 +104,50 @@ TEST_F(DiscStage, ReportsADriveThatIsNotReadyAndDropsTheChoice) {
     EXPECT_FALSE(shared.blnDiscInfo);
 }
 
+TEST_F(DiscStage, ReportsADriveThatIsNotReadyWhicheverSourceIsChosen) {
+    chooseDrive();
+    form.optISO.value = true;
+    answer("cd0:: The device is not ready.\r\n");
+    EXPECT_EQ(messages().size(), 1);
+}
+
+TEST_F(DiscStage, HasDroppedTheChoiceWhenItReportsADriveThatIsNotReady) {
+    chooseDrive();
+    int chosen = 0;
+    bool stillAsked = false;
+    outside.dialogs.whileOpen = [&] {
+        chosen = form.cmbOptical.listIndex;
+        stillAsked = shared.blnDiscInfo;
+    };
+    answer("cd0:: The device is not ready.\r\n");
+    EXPECT_EQ(chosen, -1);
+    EXPECT_TRUE(stillAsked);
+}
+
+TEST_F(DiscStage, ReportsWithAnExclamationMark) {
+    for (const char* text : {"bad ISOFS.", "The device is not ready."}) {
+        chooseDrive();
+        answer(text);
+        ASSERT_FALSE(outside.dialogs.messages.empty());
+        EXPECT_EQ(outside.dialogs.messages.back().icon, MessageIcon::Exclamation) << text;
+    }
+}
+
+TEST_F(DiscStage, IsStillAskedWhileItReportsADiscThatIsNoGame) {
+    chooseDrive();
+    bool stillAsked = false;
+    outside.dialogs.whileOpen = [&] { stillAsked = shared.blnDiscInfo; };
+    answer("cd0:: bad ISOFS.\r\n");
+    EXPECT_TRUE(stillAsked);
+}
+
+TEST_F(DiscStage, ReportsADriveThatIsNotReadyRatherThanADiscThatIsNoGame) {
+    chooseDrive();
+    answer("cd0:: bad ISOFS. The device is not ready.\r\n");
+    EXPECT_EQ(messages(),
+              QStringList{"There is either no disc in the drive or a PS2 game was not found on the disc."});
+}
+
 TEST_F(DiscStage, SaysNothingOfADriveThatIsNotChosen) {
     form.optOptical.value = true;
     answer("cd0:: The device is not ready.\r\n");
@@ -130,6 +174,39 @@ TEST_F(DiscStage, WaitsOnAfterABadImage) {
     answer("bad ISOFS.\r\n");
     EXPECT_TRUE(messages().isEmpty());
     EXPECT_TRUE(shared.blnDiscInfo);
+}
+
+TEST_F(DiscStage, WaitsOnBehindWordsThatAreNoType) {
+    for (const char* text : {"", "C", "DV", "PSX 1024KB NAME SLUS_990.71", " DVD 1024KB NAME SLUS_990.71",
+                             "a CD 1024KB NAME SLUS_990.71", "a dual-layer DVD 1024KB NAME SLUS_990.71"}) {
+        answer(text);
+        EXPECT_TRUE(shared.blnDiscInfo) << text;
+        EXPECT_EQ(form.txtGameName.text.get(), "") << text;
+    }
+    EXPECT_FALSE(form.lblDVD9.visible);
+}
+
+TEST_F(DiscStage, ShowsTheMarkOfADualLayerDiscWhoseAnswerEndsThere) {
+    for (const char* text : {"dual-layer", "dual-layer ", "dual-layer\r\n"}) {
+        form.lblDVD9.visible = false;
+        answer(text);
+        EXPECT_TRUE(form.lblDVD9.visible) << text;
+        EXPECT_TRUE(shared.blnDiscInfo) << text;
+    }
+}
+
+TEST_F(DiscStage, FillsInAllThatATooShortLineTells) {
+    form.cmbType.listIndex = 0;
+    EXPECT_THROW(answer("DVD"), Fault);
+    EXPECT_EQ(form.cmbType.text(), "DVD-ROM");
+    EXPECT_THROW(answer("DVD 8"), Fault);
+    EXPECT_EQ(form.txtGameSize.text.get(), "");
+    EXPECT_THROW(answer("DVD 1048576KB"), Fault);
+    EXPECT_EQ(form.txtGameSize.text.get(), "1.00GB");
+    EXPECT_EQ(form.txtGameSize.tag.get(), "1024");
+    EXPECT_THROW(answer("DVD 1048576KB LANTERN"), Fault);
+    EXPECT_EQ(form.txtGameName.text.get(), "LANTERN");
+    EXPECT_FALSE(form.cmdCompat.enabled);
 }
 
 TEST_F(DiscStage, RefusesALineOfTooFewWords) {

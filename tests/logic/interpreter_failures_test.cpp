@@ -32,6 +32,28 @@ TEST_F(FailureStage, LetsTheFirstKnownFailureCount) {
     EXPECT_EQ(result(1), "Aborted");
 }
 
+TEST_F(FailureStage, RanksTheKnownFailures) {
+    const std::pair<QString, QString> failures[] = {
+        {"Interrupted.", "Aborted"},
+        {"Input or output is unsupported.", "Error (Input or output is unsupported)"},
+        {"x.iso: The file exists.", "Error (File already exists)"},
+        {"There is not enough space on the disk.", "Error (Insufficient disk space)"},
+        {"The parameter is incorrect.", "Error (The parameter is incorrect)"},
+        {"SPTI error: 05", "SPTI Error (05)"},
+    };
+    runJob(1, 1);
+    for (std::size_t i = 1; i < std::size(failures); ++i) {
+        read(failures[i].first + ' ' + failures[i - 1].first);
+        EXPECT_EQ(result(1), failures[i - 1].second);
+    }
+}
+
+TEST_F(FailureStage, TakesAFileThatExistsForOneOnlyBehindAColon) {
+    runJob(1, 1);
+    read("The file exists.");
+    EXPECT_EQ(result(1), "Error (The file exists.)");
+}
+
 TEST_F(FailureStage, TakesANoticeForAFailure) {
     runJob(1, 1);
     read("Opening the drive...");
@@ -45,12 +67,20 @@ TEST_F(FailureStage, CutsTheSptiCodeAtItsFixedPlace) {
     EXPECT_EQ(result(1), "SPTI Error (rror:)");
 }
 
-TEST_F(FailureStage, TakesAnSptiCodeUpToTheEnd) {
+TEST_F(FailureStage, TakesAnSptiCodeUpToTheBlankOrTheEnd) {
     runJob(1, 1);
     read("SPTI error: 05");
     EXPECT_EQ(result(1), "SPTI Error (05)");
+    read("SPTI error: 5 sense 24");
+    EXPECT_EQ(result(1), "SPTI Error (5)");
     read("SPTI error:");
     EXPECT_EQ(result(1), "SPTI Error ()");
+}
+
+TEST_F(FailureStage, TakesABlankInFrontOfAnSptiCodeForItsFirstLetter) {
+    runJob(1, 1);
+    read("SPTI error:  05 sense");
+    EXPECT_EQ(result(1), "SPTI Error ( 05)");
 }
 
 TEST_F(FailureStage, HeedsCase) {
@@ -105,6 +135,16 @@ TEST_F(FailureStage, MarksTheRowOfALostConnectionWhetherAJobRunsOrNot) {
     EXPECT_EQ(result(1), "Error (Could not connect to PS2, restart tarnd_svr.elf)");
     EXPECT_FALSE(shared.blnJobDone);
     EXPECT_TRUE(messages().isEmpty());
+}
+
+TEST_F(FailureStage, MarksTheRowOfALostConnectionBeforeItTellsTheUser) {
+    addJobs(1);
+    shared.intJobIndex = 1;
+    shared.blnReadTOC = true;
+    QString seen;
+    outside.dialogs.whileOpen = [&] { seen = result(1); };
+    read("No connection could be made because the target machine actively refused it.");
+    EXPECT_EQ(seen, "Error (Could not connect to PS2, restart tarnd_svr.elf)");
 }
 
 TEST_F(FailureStage, WritesNothingForALostConnectionWithoutJobs) {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/fault.h"
-#include "app/shared.h"
+#include "base/fault.h"
+#include "base/shared.h"
 #include "interpreter/output_interpreter.h"
 #include "support/fake_ports.h"
 #include "support/gtest_qt.h"

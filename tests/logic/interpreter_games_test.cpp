@@ -29,14 +29,44 @@ protected:
 
 TEST_F(GameListStage, ListsEveryGameOfTheTable) {
     list(table(gameLine("DVD", "4193280KB", "+1+3", "SLUS_123.45", "First Game") +
-               gameLine("CD", " 716800KB", "", "SLES_000.01", "Second")));
+               gameLine("CD", " 716800KB", "", "SLES_990.01", "Second")));
     ASSERT_EQ(form.lstHD.count(), 2);
     EXPECT_EQ(name(0), "First Game");
     EXPECT_EQ(columns(0), (QStringList{"SLUS_123.45", "4.00GB", "DVD", "+1+3"}));
     EXPECT_EQ(name(1), "Second");
-    EXPECT_EQ(columns(1), (QStringList{"SLES_000.01", "0.68GB", "CD", ""}));
+    EXPECT_EQ(columns(1), (QStringList{"SLES_990.01", "0.68GB", "CD", ""}));
     EXPECT_EQ(form.fmBrowse.caption.get(), "Browse, Backup, and Delete - 2 Games");
     EXPECT_FALSE(shared.blnReadTOC);
+}
+
+TEST_F(GameListStage, CutsEveryColumnAtItsPlace) {
+    const QStringList withGaps{"DVD",         "9",   "1048576", "999", "flags of a game",
+                               "SLUS_990.71", "999", "Lantern"};
+    list("type\r\n" + withGaps.join("") + "\r\n");
+    ASSERT_EQ(form.lstHD.count(), 1);
+    EXPECT_EQ(name(0), "Lantern");
+    EXPECT_EQ(columns(0), (QStringList{"SLUS_990.71", "1.00GB", "DVD", "flags of a game"}));
+}
+
+TEST_F(GameListStage, ListsOnlyLinesThatBeginWithAType) {
+    list("type\r\nSACD   1KB\r\n DVD  1KB\r\nCDDA1048576KB\r\n");
+    ASSERT_EQ(form.lstHD.count(), 1);
+    EXPECT_EQ(columns(0), (QStringList{"", "1.00GB", "CDD", ""}));
+}
+
+TEST_F(GameListStage, EmptiesTheListWhenTheBarHasLetEventsIn) {
+    form.lstHD.append({"Lantern", {}, {}});
+    form.lblDiskSpace.caption = "1.00GB Total";
+    int games = 0;
+    QString space;
+    outside.pump.queue([&] {
+        games = form.lstHD.count();
+        space = form.lblDiskSpace.caption;
+    });
+    list(table(""));
+    EXPECT_EQ(games, 1);
+    EXPECT_EQ(space, "1.00GB Total");
+    EXPECT_EQ(form.lstHD.count(), 0);
 }
 
 TEST_F(GameListStage, ReplacesTheListBefore) {
@@ -68,6 +98,12 @@ TEST_F(GameListStage, AllowsCopiesToADiskThatIsNotTheSource) {
     form.cmbHD.addItem("hdd2:  [1.0 GB]");
     form.optLocal.value = true;
     list(answer);
+    EXPECT_TRUE(form.cmdBackupHDD.enabled);
+}
+
+TEST_F(GameListStage, LeavesCopiesToADiskAsTheyAreWhereThereIsNone) {
+    form.cmdBackupHDD.enabled = true;
+    list(table(gameLine("CD", "1KB", "", "", "Game")));
     EXPECT_TRUE(form.cmdBackupHDD.enabled);
 }
 
@@ -133,6 +169,17 @@ TEST_F(GameListStage, TakesAnOutputWithoutTheHeaderAsNoList) {
     EXPECT_FALSE(shared.blnReadTOC);
 }
 
+TEST_F(GameListStage, LooksForTheHeaderAtTheStartOnly) {
+    list(" " + table(gameLine("CD", "1KB", "", "", "Game")));
+    EXPECT_EQ(form.lstHD.count(), 0);
+    EXPECT_FALSE(form.cmdInstall.enabled);
+}
+
+TEST_F(GameListStage, ReadsNoSpaceFromTheHeader) {
+    list("type total 1000MB, used 400MB, available 600MB\r\n");
+    EXPECT_FALSE(form.cmdInstall.enabled);
+}
+
 TEST_F(GameListStage, ReportsAConsoleThatCannotBeFoundAndKeepsTheList) {
     form.lstHD.append({"Old", {}, {}});
     list("A connection attempt failed because the connected party did not respond.\r\n");
@@ -151,6 +198,15 @@ TEST_F(GameListStage, ReportsADiskThatIsNoPs2Disk) {
     EXPECT_EQ(messages(), QStringList{"This drive is not a PlayStation 2 HDD."});
     EXPECT_EQ(outside.dialogs.messages.front().icon, MessageIcon::Exclamation);
     EXPECT_FALSE(shared.blnReadTOC);
+}
+
+TEST_F(GameListStage, IsStillReadWhileItReportsAFailure) {
+    for (const char* failure : {"A connection attempt failed", "not a PlayStation 2 HDD."}) {
+        bool stillRead = false;
+        outside.dialogs.whileOpen = [&] { stillRead = shared.blnReadTOC; };
+        list(failure);
+        EXPECT_TRUE(stillRead) << failure;
+    }
 }
 
 TEST_F(GameListStage, ReportsAConnectionThatDiesAndGoesOnWaiting) {
@@ -188,6 +244,42 @@ TEST_F(FreeSpaceStage, NeverReadsTheToolsOwnFigureOfWhatIsAvailable) {
     list("type\r\ntotal 1000MB, used 400MB, available 7MB\r\n");
     EXPECT_EQ(form.picDiskSpace.tag.get(), "600");
     EXPECT_EQ(form.lblDiskSpace.caption.get(), "0.98GB Total - 0.39GB Used - 0.59GB Available");
+}
+
+TEST_F(FreeSpaceStage, TakesALineForTheSummaryOnlyIfItNamesAllThreeFigures) {
+    for (const char* line :
+         {"used 400MB, available 600MB", "total 1000MB, available 600MB", "total 1000MB, used 400MB"}) {
+        list(QStringLiteral("type\r\n%1\r\n").arg(line));
+        EXPECT_FALSE(form.cmdAddGame.enabled) << line;
+        EXPECT_FALSE(form.cmdInstall.enabled) << line;
+        EXPECT_EQ(form.lblDiskSpace.caption.get(), "(no active device)") << line;
+    }
+}
+
+TEST_F(FreeSpaceStage, DrawsTheBarInPercentWhetherTheSpaceIsKnownOrNot) {
+    list("no list");
+    EXPECT_EQ(form.picDiskSpace.scaleWidth, 100);
+    list(table(""));
+    EXPECT_EQ(form.picDiskSpace.scaleWidth, 100);
+    list("type\r\ntotal 1000MB, used 1000MB, available 0MB\r\n");
+    EXPECT_EQ(form.picDiskSpace.drawing.get().text, "100%");
+    EXPECT_EQ(form.picDiskSpace.drawing.get().filledTo, 100);
+}
+
+TEST_F(FreeSpaceStage, KnowsTheSpaceBeforeTheBarLetsEventsInAndTellsItAfterwards) {
+    list("no list");
+    // The bar is drawn empty first, and once more at the summary.
+    QStringList space, told;
+    std::vector<bool> installsAllowed;
+    outside.pump.whileWaiting = [&] {
+        space += form.picDiskSpace.tag;
+        told += form.lblDiskSpace.caption;
+        installsAllowed.push_back(form.cmdInstall.enabled);
+    };
+    list(table(""));
+    EXPECT_EQ(space, (QStringList{"", "87761"}));
+    EXPECT_EQ(told, (QStringList{"(no active device)", "(no active device)"}));
+    EXPECT_EQ(installsAllowed, (std::vector{false, true}));
 }
 
 TEST_F(FreeSpaceStage, RefusesADiskOfNoSize) {

@@ -1,5 +1,5 @@
 #include "interpreter_fixture.h"
-#include "queue/elapsed.h"
+#include "status/elapsed.h"
 
 namespace tarnwell {
 namespace {
@@ -26,6 +26,44 @@ TEST_F(ProgressStage, KeepsCommasInsideTheRemainingTime) {
     runJob(1, 1);
     read("45%, 1 h, 12 min remaining, 3.50 MB/sec");
     EXPECT_EQ(status.lblRemaining.caption.get(), "1 h, 12 min remaining");
+}
+
+TEST_F(ProgressStage, EndsTheRemainingTimeAtTheCommaBeforeTheFirstSpeed) {
+    runJob(1, 1);
+    read("45%, 12 min remaining, 3.50 MB/sec, 4.00 MB/sec on average");
+    EXPECT_EQ(status.lblRemaining.caption.get(), "12 min remaining");
+    EXPECT_EQ(status.lblSpeed.caption.get(), "Speed: 4.00 MB/sec on average");
+}
+
+TEST_F(ProgressStage, ShowsTheRemainingTimeBeforeTheSpeed) {
+    runJob(1, 1);
+    QString seen;
+    status.lblSpeed.caption.changed.connect([&] { seen = status.lblRemaining.caption; });
+    read("45%, 12 min remaining, 3.50 MB/sec");
+    EXPECT_EQ(seen, "12 min remaining");
+    EXPECT_THROW(read("46%, 11 min remaining 4.00 MB/sec"), Fault);
+    EXPECT_EQ(status.lblSpeed.caption.get(), "Speed: 3.50 MB/sec");
+}
+
+TEST_F(ProgressStage, DrawsEachBarBeforeItsPercentStandsForOthersToRead) {
+    runJob(1, 2);
+    QStringList seen;
+    outside.pump.whileWaiting = [&] {
+        seen += QStringLiteral("%1, tag %2; %3, tag %4")
+                    .arg(status.picCurrent.drawing.get().text, status.picCurrent.tag.get(),
+                         status.picOverall.drawing.get().text, status.picOverall.tag.get());
+    };
+    read("44%");
+    EXPECT_EQ(seen, (QStringList{"44%, tag ; , tag ", "44%, tag 44; 22%, tag "}));
+    EXPECT_EQ(status.picOverall.tag.get(), "22");
+}
+
+TEST_F(ProgressStage, ShowsTheSpeedBeforeTheBarLetsEventsIn) {
+    runJob(1, 1);
+    QString seen;
+    outside.pump.queue([&] { seen = status.lblSpeed.caption; });
+    read("45%, 12 min remaining, 3.50 MB/sec");
+    EXPECT_EQ(seen, "Speed: 3.50 MB/sec");
 }
 
 TEST_F(ProgressStage, MovesOnlyTheBarForABareLine) {

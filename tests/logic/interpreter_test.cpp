@@ -106,6 +106,98 @@ TEST_F(Interpreter, AnswersAWaitingDiscQuestionInTheMiddleOfAJob) {
     EXPECT_TRUE(shared.blnDiscInfo);
 }
 
+TEST_F(Interpreter, ReadsAnAnswerAboutADiscBeforeAGameList) {
+    form.cmbOptical.addItem("cd0:  [4.38GB]");
+    form.cmbOptical.listIndex = 0;
+    shared.blnDiscInfo = true;
+    shared.blnReadTOC = true;
+    read("The device is not ready. A connection attempt failed");
+    EXPECT_EQ(messages(),
+              QStringList{"There is either no disc in the drive or a PS2 game was not found on the disc."});
+    EXPECT_TRUE(shared.blnReadTOC);
+}
+
+TEST_F(Interpreter, ReadsOnBehindAnAnswerAboutADisc) {
+    shared.blnDiscInfo = true;
+    shared.blnReadTOC = true;
+    read("DVD 4193280KB LANTERN SLUS_990.71");
+    EXPECT_FALSE(shared.blnDiscInfo);
+    EXPECT_FALSE(shared.blnReadTOC);
+}
+
+TEST_F(Interpreter, ReadsOnBehindTheDevicesOfAQuery) {
+    const ui::ComboBox& ofSettings = shared.frmSettings->cmbHD;
+    const QString answer = "\thdd1:  1024 MB, formatted Playstation 2 HDD\r\n\tcd0:  700 MB\r\n";
+    for (bool* const query : {&shared.blnQueryHD, &shared.blnQueryOptical}) {
+        *query = true;
+        shared.blnQuerySettings = true;
+        const int before = ofSettings.listCount();
+        read(answer);
+        EXPECT_EQ(ofSettings.listCount(), before + 1);
+        EXPECT_FALSE(shared.blnQuerySettings);
+    }
+}
+
+TEST_F(Interpreter, ReadsNothingBehindTheBoxAboutMissingDiscs) {
+    form.optOptical.value = true;
+    shared.blnQueryOptical = true;
+    shared.blnQuerySettings = true;
+    read("\thdd1:  1024 MB, formatted Playstation 2 HDD\r\n");
+    EXPECT_EQ(messages().size(), 1);
+    EXPECT_EQ(shared.frmSettings->cmbHD.listCount(), 0);
+    EXPECT_TRUE(shared.blnQuerySettings);
+}
+
+TEST_F(Interpreter, PassesOverAnUnreadableGameListInAQueue) {
+    runJob(1, 2);
+    shared.blnReadTOC = true;
+    read("type 50%\r\ntotal 0MB, used 0MB, available 0MB\rInterrupted.");
+    EXPECT_FALSE(shared.blnReadTOC);
+    EXPECT_EQ(result(1), "Aborted");
+}
+
+TEST_F(Interpreter, StopsAtAnUnreadableAnswerWhileASingleJobRuns) {
+    runJob(1, 1);
+    shared.blnReadTOC = true;
+    EXPECT_THROW(read("type 50%\r\ntotal 0MB, used 0MB, available 0MB\rInterrupted."), Fault);
+    shared.blnDiscInfo = true;
+    EXPECT_THROW(read("DVD 50%\rInterrupted."), Fault);
+    EXPECT_EQ(result(1), "Pending");
+}
+
+TEST_F(Interpreter, AnswersWaitingQueriesInTheMiddleOfAJob) {
+    runJob(1, 1);
+    shared.blnQueryHD = true;
+    shared.blnQuerySettings = true;
+    read("\thdd1:  1024 MB, formatted Playstation 2 HDD");
+    EXPECT_EQ(form.cmbHD.listCount(), 1);
+    EXPECT_EQ(shared.frmSettings->cmbHD.listCount(), 1);
+    EXPECT_EQ(result(1), "Error (\thdd1:  1024 MB, formatted Playstation 2 HDD)");
+}
+
+TEST_F(Interpreter, ReadsTheLaterLinesOfAJobBehindAGameList) {
+    runJob(1, 1);
+    shared.blnReadTOC = true;
+    read("50%\r60%");
+    EXPECT_FALSE(shared.blnReadTOC);
+    EXPECT_EQ(status.picCurrent.tag.get(), "60");
+}
+
+TEST_F(Interpreter, ReadsNoLaterLineOfAJobBehindAGameListThatFailed) {
+    runJob(1, 1);
+    shared.blnReadTOC = true;
+    read("50%, A connection attempt failed\r60%");
+    EXPECT_EQ(messages().size(), 1);
+    EXPECT_EQ(status.picCurrent.tag.get(), "50");
+}
+
+TEST_F(Interpreter, ReadsNoLaterLineByItselfWhileNoJobRuns) {
+    shared.blnDiscInfo = true;
+    read("Opening the image...\rDVD 4193280KB LANTERN SLUS_990.71");
+    EXPECT_EQ(form.txtGameName.text.get(), "");
+    EXPECT_TRUE(shared.blnDiscInfo);
+}
+
 TEST_F(Interpreter, ReadsAQueryAnswerOnlyOnce) {
     shared.blnQueryHD = true;
     const QString answer = "\thdd1:  114473MB, formatted Playstation 2 HDD\r\n";

@@ -9,7 +9,7 @@ namespace {
 struct JobList : QueueTest {
     JobList() {
         startProgram();
-        chooseImage("/games/ratchet.iso");
+        chooseImage("/games/lantern.iso");
     }
 
     void chooseImage(const QString& path) {
@@ -19,7 +19,7 @@ struct JobList : QueueTest {
     const ui::ListView::Row& lastJob() const { return frmMain.lstJob.row(frmMain.lstJob.count() - 1); }
     void addTwoGames() {
         ui::click(frmMain.cmdAddGame);
-        chooseImage("/games/tekken.iso");
+        chooseImage("/games/copper.iso");
         ui::click(frmMain.cmdAddGame);
     }
     bool buttonsEnabled() const {
@@ -40,9 +40,9 @@ TEST_F(JobList, AGameBecomesAPendingRowWithItsCommand) {
     EXPECT_TRUE(ui::click(frmMain.cmdAddGame));
     ASSERT_EQ(frmMain.lstJob.count(), 1);
     EXPECT_EQ(lastJob().text, "Pending");
-    EXPECT_EQ(lastJob().subItems, QStringList({"Install", "/games/ratchet.iso", "192.168.0.10", "RATCHET",
-                                               "SLUS_200.71", "DVD-ROM", ""}));
-    EXPECT_EQ(lastJob().tag, "inject_dvd 192.168.0.10 RATCHET /games/ratchet.iso SLUS_200.71");
+    EXPECT_EQ(lastJob().subItems, QStringList({"Install", "/games/lantern.iso", "192.168.0.10", "LANTERN",
+                                               "SLUS_990.71", "DVD-ROM", ""}));
+    EXPECT_EQ(lastJob().tag, "inject_dvd 192.168.0.10 LANTERN /games/lantern.iso SLUS_990.71");
     EXPECT_TRUE(buttonsEnabled());
     EXPECT_EQ(balloons(), QStringList("Job added to job queue"));
     EXPECT_EQ(frmMain.lstJob.selectedItem, -1);
@@ -54,6 +54,12 @@ TEST_F(JobList, NoBalloonIfTheUserHasTurnedThemOff) {
     store("BalloonTips", "1");
     ui::click(frmMain.cmdAddGame);
     EXPECT_EQ(frmMain.lstJob.count(), 1);
+    EXPECT_EQ(balloons(), QStringList());
+}
+
+TEST_F(JobList, NoBalloonUnlessTheSettingIsExactlyZero) {
+    store("BalloonTips", "0.5");
+    ui::click(frmMain.cmdAddGame);
     EXPECT_EQ(balloons(), QStringList());
 }
 
@@ -93,7 +99,7 @@ TEST_F(JobList, AGameThatDoesNotFitIsRefused) {
     ui::click(frmMain.cmdAddGame);
     EXPECT_TRUE(lastMessage().endsWith("you need 4224MB and you only have 4200MB available."));
     EXPECT_EQ(frmMain.lstJob.count(), 0);
-    EXPECT_EQ(frmMain.txtGameName.text.get(), "RATCHET");
+    EXPECT_EQ(frmMain.txtGameName.text.get(), "LANTERN");
 }
 
 TEST_F(JobList, AGameThatJustFitsIsTaken) {
@@ -116,7 +122,7 @@ TEST_F(JobList, ASizeThatWasNeverReadIsToldAndChangesNothing) {
     EXPECT_TRUE(lastMessage().startsWith("The size of the game is not known"));
     EXPECT_EQ(frmMain.lstJob.count(), 0);
     EXPECT_FALSE(buttonsEnabled());
-    EXPECT_EQ(frmMain.txtISO.text.get(), "/games/ratchet.iso");
+    EXPECT_EQ(frmMain.txtISO.text.get(), "/games/lantern.iso");
 }
 
 TEST_F(JobList, ADriveThatTheLastQueryDoesNotKnowChangesNothing) {
@@ -129,10 +135,10 @@ TEST_F(JobList, ADriveThatTheLastQueryDoesNotKnowChangesNothing) {
 }
 
 TEST_F(JobList, ANameWithABlankIsQuotedInTheCommandAndBareInTheList) {
-    ui::type(frmMain.txtGameName, "Ratchet and Clank");
+    ui::type(frmMain.txtGameName, "Lantern and Quill");
     ui::click(frmMain.cmdAddGame);
-    EXPECT_EQ(lastJob().tag, "inject_dvd 192.168.0.10 \"Ratchet and Clank\" /games/ratchet.iso SLUS_200.71");
-    EXPECT_EQ(lastJob().subItems[3], "Ratchet and Clank");
+    EXPECT_EQ(lastJob().tag, "inject_dvd 192.168.0.10 \"Lantern and Quill\" /games/lantern.iso SLUS_990.71");
+    EXPECT_EQ(lastJob().subItems[3], "Lantern and Quill");
 }
 
 TEST_F(JobList, FlagsWithoutAStartupFileKeepTheirPlaceByTwoQuotes) {
@@ -140,7 +146,7 @@ TEST_F(JobList, FlagsWithoutAStartupFileKeepTheirPlaceByTwoQuotes) {
     ui::click(frmMain.mnuFlags[2]);
     ui::type(frmMain.txtGameStartup, "");
     ui::click(frmMain.cmdAddGame);
-    EXPECT_EQ(lastJob().tag, "inject_dvd 192.168.0.10 RATCHET /games/ratchet.iso \"\" +1+3");
+    EXPECT_EQ(lastJob().tag, "inject_dvd 192.168.0.10 LANTERN /games/lantern.iso \"\" +1+3");
     EXPECT_EQ(lastJob().subItems[4], "");
     EXPECT_EQ(lastJob().subItems[6], "+1+3");
 }
@@ -149,20 +155,20 @@ TEST_F(JobList, NeitherFlagsNorStartupLeaveNoBlankAtTheEnd) {
     ui::type(frmMain.txtGameStartup, "");
     frmMain.cmbType.listIndex = 0;
     ui::click(frmMain.cmdAddGame);
-    EXPECT_EQ(lastJob().tag, "inject_cd 192.168.0.10 RATCHET /games/ratchet.iso");
+    EXPECT_EQ(lastJob().tag, "inject_cd 192.168.0.10 LANTERN /games/lantern.iso");
     EXPECT_EQ(lastJob().subItems[5], "CD-ROM");
 }
 
 TEST_F(JobList, AStartupFileWithABlankIsNotQuoted) {
-    ui::type(frmMain.txtGameStartup, "SLUS 200.71");
+    ui::type(frmMain.txtGameStartup, "SLUS 990.71");
     ui::click(frmMain.cmdAddGame);
-    EXPECT_EQ(lastJob().tag, "inject_dvd 192.168.0.10 RATCHET /games/ratchet.iso SLUS 200.71");
+    EXPECT_EQ(lastJob().tag, "inject_dvd 192.168.0.10 LANTERN /games/lantern.iso SLUS 990.71");
 }
 
 TEST_F(JobList, ALocalDiskGoesByItsFirstFiveCharacters) {
     ui::click(frmMain.optLocal);
     ui::click(frmMain.cmdAttach);
-    frmMain.txtISO.text = QString("/games/ratchet.iso");
+    frmMain.txtISO.text = QString("/games/lantern.iso");
     ui::click(frmMain.cmdAddGame);
     EXPECT_EQ(lastJob().subItems[2], "hdd1:");
 }
@@ -202,7 +208,7 @@ TEST_F(JobList, RemoveTakesTheSelectedRow) {
     frmMain.lstJob.select(0);
     ui::click(frmMain.cmdRemove);
     ASSERT_EQ(frmMain.lstJob.count(), 1);
-    EXPECT_EQ(lastJob().subItems[1], "/games/tekken.iso");
+    EXPECT_EQ(lastJob().subItems[1], "/games/copper.iso");
     EXPECT_TRUE(buttonsEnabled());
 }
 
@@ -279,6 +285,29 @@ TEST_F(JobList, ARightClickOnAnEmptyListOrWithNothingSelectedDoesNothing) {
     ui::pressMouse(frmMain.lstJob, 2);
     EXPECT_TRUE(ports.dialogs.inputs.empty());
     EXPECT_TRUE(ports.dialogs.messages.empty());
+}
+
+TEST_F(JobList, AfterARemovalNoRowIsChosen) {
+    addTwoGames();
+    frmMain.lstJob.select(0);
+    ui::click(frmMain.cmdRemove);
+    EXPECT_EQ(frmMain.lstJob.selectedRow(), -1);
+    ui::pressMouse(frmMain.lstJob, 2);
+    EXPECT_TRUE(ports.dialogs.inputs.empty());
+    ui::click(frmMain.cmdRemove);
+    EXPECT_EQ(frmMain.lstJob.count(), 1);
+}
+
+TEST_F(JobList, TheRowThatIsMarkedCountsWhereverTheFocusIs) {
+    addTwoGames();
+    frmMain.lstJob.select(0);
+    frmMain.lstJob.selectedItem = 1;
+    ui::pressMouse(frmMain.lstJob, 2);
+    ASSERT_EQ(ports.dialogs.inputs.size(), 1u);
+    EXPECT_EQ(ports.dialogs.inputs[0].text, frmMain.lstJob.row(0).tag);
+    ui::click(frmMain.cmdRemove);
+    ASSERT_EQ(frmMain.lstJob.count(), 1);
+    EXPECT_EQ(lastJob().subItems[1], "/games/copper.iso");
 }
 
 TEST_F(JobList, RunningAndCompletedJobsCannotBeEditedOthersCan) {

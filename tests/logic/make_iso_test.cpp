@@ -10,7 +10,7 @@ namespace {
 struct MakeIso : GameListTest {
     MakeIso() {
         answerQueryWith("\tcd0:  4482 MB\r\nvia SPTI:\r\n\tE: disc 4482 MB\r\n");
-        answerDiscInfoWith("DVD 4193280KB \"RATCHET\" \"SLUS_200.71\"\r\n");
+        answerDiscInfoWith("DVD 4193280KB \"LANTERN\" \"SLUS_990.71\"\r\n");
         ui::click(frmMain.optInstall);
         ui::click(frmMain.optOptical);
     }
@@ -25,16 +25,16 @@ struct MakeIso : GameListTest {
 
 TEST_F(MakeIso, QueuesAJobAndStartsNothing) {
     const qsizetype before = commands().size();
-    saveAs("/games/ratchet.iso");
-    expectQueued({"Make ISO", "E:", "/games/ratchet.iso", "RATCHET"}, "dump E: /games/ratchet.iso");
+    saveAs("/games/lantern.iso");
+    expectQueued({"Make ISO", "E:", "/games/lantern.iso", "LANTERN"}, "dump E: /games/lantern.iso");
     EXPECT_EQ(commands().size(), before);
-    EXPECT_FALSE(QFile::exists("/games/ratchet.iso"));
+    EXPECT_FALSE(QFile::exists("/games/lantern.iso"));
 }
 
 TEST_F(MakeIso, ThePageStaysForAnInstall) {
     ui::click(frmMain.mnuFlags[1]);
-    saveAs("/games/ratchet.iso");
-    EXPECT_EQ(frmMain.txtGameName.text.get(), "RATCHET");
+    saveAs("/games/lantern.iso");
+    EXPECT_EQ(frmMain.txtGameName.text.get(), "LANTERN");
     EXPECT_EQ(frmMain.cmbOptical.listIndex, 0);
     EXPECT_TRUE(frmMain.mnuFlags[1].checked);
     EXPECT_TRUE(frmMain.cmdMakeISO.enabled);
@@ -42,10 +42,10 @@ TEST_F(MakeIso, ThePageStaysForAnInstall) {
 
 TEST_F(MakeIso, TheDialogProposesTheNameOfTheGame) {
     store("DefaultISO", "/my images");
-    ui::type(frmMain.txtGameName, "Ratchet and Clank");
-    saveAs("/my images/Ratchet and Clank.iso");
+    ui::type(frmMain.txtGameName, "Lantern and Quill");
+    saveAs("/my images/Lantern and Quill.iso");
     const SaveFileRequest& request = ports.dialogs.saveFileRequests.at(0);
-    EXPECT_EQ(request.fileName, "Ratchet and Clank.iso");
+    EXPECT_EQ(request.fileName, "Lantern and Quill.iso");
     EXPECT_EQ(request.folder, "/my images");
     EXPECT_EQ(request.extension, "*.iso");
     EXPECT_EQ(request.title, "");
@@ -53,17 +53,35 @@ TEST_F(MakeIso, TheDialogProposesTheNameOfTheGame) {
     EXPECT_EQ(request.filter, "ISO Files (*.iso)|*.iso|CUE Files (*.cue)|*.cue|Nero Burning Image "
                               "(*.nrg)|*.nrg|RecordNow! Global Image (*.gi)|*.gi|Sony CD/DVD "
                               "Generator's Intermediate (*.iml)|*.iml|");
-    EXPECT_EQ(commandsOfJobs(), QStringList("dump E: \"/my images/Ratchet and Clank.iso\""));
+    EXPECT_EQ(commandsOfJobs(), QStringList("dump E: \"/my images/Lantern and Quill.iso\""));
+}
+
+TEST_F(MakeIso, AFolderOutsideTheCodePageIsKnownByItsShortName) {
+    const QString folder = QString::fromUtf8("/\xe3\x82\xb2/");
+    ports.folders.namesInCodePage = {{folder, "/1A2B~1/"}};
+    saveAs(folder + "lantern.iso");
+    expectQueued({"Make ISO", "E:", "/1A2B~1/lantern.iso", "LANTERN"}, "dump E: /1A2B~1/lantern.iso");
+}
+
+TEST_F(MakeIso, ANameOutsideTheCodePageIsToldAndTheFileOfThatNameStays) {
+    const QString image = path(QString::fromUtf8("\xe3\x82\xb2.iso"));
+    QFile old(image);
+    ASSERT_TRUE(old.open(QFile::WriteOnly));
+    ports.folders.namesInCodePage = {{image, path("1A2B~1.ISO")}};
+    saveAs(image);
+    EXPECT_TRUE(lastMessage().startsWith(image + " cannot be used: "));
+    EXPECT_TRUE(QFile::exists(image));
+    expectNothingQueued();
 }
 
 TEST_F(MakeIso, APathWithoutABlankStandsBare) {
-    saveAs("/games/ratchet.iso");
+    saveAs("/games/lantern.iso");
     EXPECT_FALSE(commandsOfJobs().first().contains('"'));
 }
 
 TEST_F(MakeIso, AMissingToolIsTold) {
     removeTool();
-    saveAs("/games/ratchet.iso");
+    saveAs("/games/lantern.iso");
     EXPECT_EQ(lastMessage(),
               "tarnwell.exe was not found. Place it in the same directory as this program and try again.");
     EXPECT_TRUE(ports.dialogs.saveFileRequests.empty());
@@ -72,17 +90,17 @@ TEST_F(MakeIso, AMissingToolIsTold) {
 
 TEST_F(MakeIso, ANameOfBlanksIsRefused) {
     ui::type(frmMain.txtGameName, "   ");
-    saveAs("/games/ratchet.iso");
+    saveAs("/games/lantern.iso");
     EXPECT_EQ(lastMessage(), "Please enter a name for the game.");
     EXPECT_TRUE(ports.dialogs.saveFileRequests.empty());
     expectNothingQueued();
 }
 
 TEST_F(MakeIso, ANameWithBlanksRoundItIsTakenAsItStands) {
-    ui::type(frmMain.txtGameName, " Ratchet ");
-    saveAs("/games/ratchet.iso");
-    EXPECT_EQ(ports.dialogs.saveFileRequests.at(0).fileName, " Ratchet .iso");
-    EXPECT_EQ(frmMain.lstJob.row(0).subItems[3], " Ratchet ");
+    ui::type(frmMain.txtGameName, " Lantern ");
+    saveAs("/games/lantern.iso");
+    EXPECT_EQ(ports.dialogs.saveFileRequests.at(0).fileName, " Lantern .iso");
+    EXPECT_EQ(frmMain.lstJob.row(0).subItems[3], " Lantern ");
 }
 
 TEST_F(MakeIso, ACancelledDialogChangesNothing) {
@@ -121,36 +139,36 @@ TEST_F(MakeIso, WhatCannotBeDeletedIsLeftToTheTool) {
 
 TEST_F(MakeIso, ADriveThatTheLastQueryDoesNotKnowLeavesAGapInTheJob) {
     frmMain.cmbOptical.tag = QString();
-    saveAs("/games/ratchet.iso");
-    expectQueued({"Make ISO", "", "/games/ratchet.iso", "RATCHET"}, "dump  /games/ratchet.iso");
+    saveAs("/games/lantern.iso");
+    expectQueued({"Make ISO", "", "/games/lantern.iso", "LANTERN"}, "dump  /games/lantern.iso");
 }
 
 TEST_F(MakeIso, ADriveWithoutALetterGoesByTheToolsName) {
     frmMain.cmbOptical.tag = QString("0,");
-    saveAs("/games/ratchet.iso");
-    EXPECT_EQ(commandsOfJobs(), QStringList("dump cd0: /games/ratchet.iso"));
+    saveAs("/games/lantern.iso");
+    EXPECT_EQ(commandsOfJobs(), QStringList("dump cd0: /games/lantern.iso"));
 }
 
 TEST_F(MakeIso, ALongNameInAnyAlphabetArrivesWhole) {
     ui::type(frmMain.txtGameName, kLongName);
     saveAs("/games/" + kLongName + ".iso");
-    EXPECT_EQ(ports.dialogs.saveFileRequests.at(0).fileName, kLongName + ".iso");
+    EXPECT_EQ(ports.dialogs.saveFileRequests.at(0).fileName, QString(kLongName).replace('"', '-') + ".iso");
     EXPECT_EQ(commandsOfJobs(), QStringList("dump E: \"/games/" + kLongName + ".iso\""));
 }
 
 TEST_F(MakeIso, NoBalloonIfTheUserWantsNone) {
     store("BalloonTips", "1");
-    saveAs("/games/ratchet.iso");
+    saveAs("/games/lantern.iso");
     EXPECT_EQ(balloons(), QStringList());
     EXPECT_EQ(frmMain.lstJob.count(), 1);
 }
 
 TEST_F(MakeIso, TheRunningJobShowsTheFileWithoutItsFolder) {
-    saveAs("C:\\my images\\ratchet.iso");
+    saveAs("C:\\my images\\lantern.iso");
     ports.launcher.on("tarnwell.exe dump", {.output = {{"100%\r", 100}}, .endsAtMs = 200});
     ui::click(frmMain.optJobQueue);
     ui::click(frmMain.cmdStart);
-    EXPECT_EQ(frmStatus->lblJob.caption.get(), "Creating ISO File [ratchet.iso]");
+    EXPECT_EQ(frmStatus->lblJob.caption.get(), "Creating ISO File [lantern.iso]");
     EXPECT_EQ(frmMain.lstJob.row(0).text, "Complete");
 }
 

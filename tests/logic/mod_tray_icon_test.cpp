@@ -1,4 +1,4 @@
-#include "services/mod_tray_icon.h"
+#include "base/mod_tray_icon.h"
 #include "support/fake_ports.h"
 #include "support/gtest_qt.h"
 
@@ -7,8 +7,12 @@
 namespace tarnwell {
 namespace {
 
-TEST(TrayIcon, StandsFromTheStartToTheEnd) {
-    test::FakeTray tray;
+struct TrayIcon : testing::Test {
+    test::Journal journal;
+    test::FakeTray tray{journal};
+};
+
+TEST_F(TrayIcon, StandsFromTheStartToTheEnd) {
     TrayAdd(tray, "Title");
     EXPECT_TRUE(tray.shown);
     EXPECT_EQ(tray.tip(), "Title");
@@ -16,14 +20,12 @@ TEST(TrayIcon, StandsFromTheStartToTheEnd) {
     EXPECT_FALSE(tray.shown);
 }
 
-TEST(TrayIcon, CutsALongTip) {
-    test::FakeTray tray;
+TEST_F(TrayIcon, CutsALongTip) {
     TrayTip(tray, QString(127, 'a') + "b");
     EXPECT_EQ(tray.tip(), QString(127, 'a'));
 }
 
-TEST(TrayIcon, ShowsBalloonsUnderTheProgramsNameAndKeepsTheTip) {
-    test::FakeTray tray;
+TEST_F(TrayIcon, ShowsBalloonsUnderTheProgramsNameAndKeepsTheTip) {
     TrayTip(tray, "Tip");
     TrayBalloon(tray, QString(255, 'a') + "b");
     ASSERT_EQ(tray.balloons.size(), 1u);

@@ -1,4 +1,4 @@
-#include "queue/percent_bar.h"
+#include "status/percent_bar.h"
 #include "support/fake_ports.h"
 #include "support/gtest_qt.h"
 #include "ui/frm_main.h"
@@ -67,6 +67,17 @@ TEST_F(PercentBarTest, LetsEventsInBehindTheDrawing) {
     outside.pump.queue([&] { seen = text(); });
     draw(100, 40);
     EXPECT_EQ(seen, "40%");
+}
+
+TEST_F(PercentBarTest, RoundsThePercentToTheNearestAndHalvesToTheEven) {
+    draw(3, 1);
+    EXPECT_EQ(text(), "33%");
+    draw(3, 2);
+    EXPECT_EQ(text(), "67%");
+    draw(200, 1);
+    EXPECT_EQ(text(), "0%");
+    draw(200, 3);
+    EXPECT_EQ(text(), "2%");
 }
 
 } // namespace

@@ -8,12 +8,15 @@ namespace tarnwell::test {
 class QueueTest : public ProgramTest {
 protected:
     static inline const QString kConsole = "192.168.0.10";
+    static inline const QString kComplete = "Complete";
+    static inline const QString kAborted = "Aborted";
+    static inline const QString kDiskFull = "Error (Insufficient disk space)";
     static constexpr int kForEver = 100'000'000;
 
     QueueTest() {
         answerQueryWith(kTwoDisks);
         answerTocWith(kTwoGames);
-        answerDiscInfoWith("DVD 4193280KB \"RATCHET\" \"SLUS_200.71\"\r\n");
+        answerDiscInfoWith("DVD 4193280KB \"LANTERN\" \"SLUS_990.71\"\r\n");
         answerWith("inject", succeeding());
     }
 
@@ -84,6 +87,12 @@ protected:
         return all;
     }
     int refreshes() const { return static_cast<int>(commands().filter("tarn_toc").size()); }
+};
+
+/// The same with the program started.
+class ReadyQueueTest : public QueueTest {
+protected:
+    ReadyQueueTest() { startProgram(); }
 };
 
 } // namespace tarnwell::test

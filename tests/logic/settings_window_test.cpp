@@ -113,6 +113,16 @@ TEST_F(SettingsWindowTest, WithoutTheToolsFileSavingClosesItAndTheNextUseLoadsIt
     EXPECT_EQ(readConf(), "target_kbps = 17\n") << "the new window saves nothing unless told to";
 }
 
+TEST_F(SettingsWindowTest, LoadedAnewWithoutAStoreItWritesTheDefaultsFirst) {
+    open();
+    QFile::remove(conf());
+    ui::click(frmSettings->cmdExit);
+    QFile::remove(path("config.cfg"));
+    open();
+    EXPECT_EQ(stored("CloseStatus"), "1");
+    EXPECT_EQ(frmSettings->chkCloseStatus.value, 1);
+}
+
 TEST_F(SettingsWindowTest, ExitWritesTheToolsFileOnceMoreAfterASave) {
     open();
     ui::click(frmSettings->cmdExit);
@@ -166,6 +176,14 @@ TEST_F(SettingsWindowTest, StayOnTopConcernsEveryWindowThatIsUp) {
     EXPECT_TRUE(frmStatus->topmost) << "a hidden window is left alone";
 }
 
+TEST_F(SettingsWindowTest, AGreyedStayOnTopLeavesTheWindowsOnTop) {
+    EXPECT_TRUE(frmMain.topmost);
+    frmSettings->chkStayOnTop.value = 2;
+    EXPECT_TRUE(frmMain.topmost);
+    EXPECT_TRUE(frmSettings->topmost);
+    EXPECT_EQ(stored("StayOnTop"), "2");
+}
+
 TEST_F(SettingsWindowTest, TheGameFolderIsChosenAndStoredWithASeparator) {
     openPage(ui::FrmSettings::kGuiTab);
     const QString folder = makeFolder("games");
@@ -177,6 +195,33 @@ TEST_F(SettingsWindowTest, TheGameFolderIsChosenAndStoredWithASeparator) {
     EXPECT_EQ(frmSettings->txtDefaultISO.text.get(), folder);
     EXPECT_EQ(ports.dialogs.chooseFolderRequests[0].title, "Select PS2 Game ISO directory");
     EXPECT_EQ(ports.dialogs.chooseFolderRequests[0].folder, "");
+}
+
+TEST_F(SettingsWindowTest, AFolderOfImagesOutsideTheCodePageIsKnownByItsShortNameOrNotTaken) {
+    openPage(ui::FrmSettings::kGuiTab);
+    const QString folder = QString::fromUtf8("/\xe3\x82\xb2");
+    ports.folders.namesInCodePage = {{folder + QDir::separator(), "/1A2B~1/"}};
+    ports.dialogs.chooseFolderAnswers = {folder, folder};
+    ui::click(frmSettings->cmdDefaultISO);
+    EXPECT_EQ(stored("DefaultISO"), "/1A2B~1/");
+    EXPECT_EQ(frmSettings->txtDefaultISO.text.get(), "/1A2B~1/");
+    ports.folders.namesInCodePage = {{folder + QDir::separator(), ""}};
+    ui::click(frmSettings->cmdDefaultISO);
+    EXPECT_TRUE(lastMessage().startsWith(folder + QDir::separator() + " cannot be used: "));
+    EXPECT_EQ(stored("DefaultISO"), "/1A2B~1/");
+}
+
+TEST_F(SettingsWindowTest, ADiscDatabaseOutsideTheCodePageIsKnownByItsShortNameOrNotTaken) {
+    open();
+    const QString folder = QString::fromUtf8("/\xe3\x82\xb2/");
+    ports.folders.namesInCodePage = {{folder, "/1A2B~1/"}};
+    ports.dialogs.openFileAnswers = {folder + "tarnwell.list", folder + "tarnwell.list"};
+    ui::click(frmSettings->cmdDiskDatabase);
+    EXPECT_EQ(frmSettings->txtDiscDatabase.text.get(), "/1A2B~1/tarnwell.list");
+    ports.folders.namesInCodePage = {{folder, ""}, {folder + "tarnwell.list", ""}};
+    ui::click(frmSettings->cmdDiskDatabase);
+    EXPECT_TRUE(lastMessage().startsWith(folder + "tarnwell.list cannot be used: "));
+    EXPECT_EQ(frmSettings->txtDiscDatabase.text.get(), "/1A2B~1/tarnwell.list");
 }
 
 TEST_F(SettingsWindowTest, OnlyTheToolsOwnDiscDatabaseIsTaken) {
@@ -198,14 +243,12 @@ TEST_F(SettingsWindowTest, OnlyTheToolsOwnDiscDatabaseIsTaken) {
 
 TEST_F(SettingsWindowTest, TheSoundsButtonOpensItsMenuUnderItself) {
     openPage(ui::FrmSettings::kGuiTab);
-    QPair<int, int> place;
-    frmMain.mnuSounds.poppedUp.connect([&](int x, int y) { place = {x, y}; });
-    frmSettings->cmdSounds.left = 100;
-    frmSettings->cmdSounds.top = 1000;
-    frmSettings->cmdSounds.height = 300;
+    QStringList menus;
+    frmSettings->menuWanted.connect([&](ui::PopupMenu& menu, const ui::Control& control) {
+        menus += menu.name + " below " + control.name;
+    });
     ui::click(frmSettings->cmdSounds);
-    EXPECT_EQ(frmMain.left + place.first, frmSettings->left + 240 + 100);
-    EXPECT_EQ(frmMain.top + place.second, frmSettings->top + 480 + 1000 + 300);
+    EXPECT_EQ(menus, QStringList("mnuSounds below cmdSounds"));
 }
 
 TEST_F(SettingsWindowTest, UseDefaultsAsksFirst) {
@@ -238,6 +281,23 @@ TEST_F(SettingsWindowTest, UseDefaultsResetsTheGuiAndWhatTheToolsFileLacks) {
     EXPECT_EQ(frmSettings->txtDiscDatabase.text.get(),
               ports.folders.data + QDir::separator() + "tarnwell.list");
     EXPECT_EQ(stored("ApplicationData"), ports.folders.data + QDir::separator());
+}
+
+TEST_F(SettingsWindowTest, UseDefaultsSetsEveryToolSettingThatAnEmptyFileLeavesOpen) {
+    open();
+    frmMain.txtIP.text = QString("10.0.0.1");
+    frmSettings->chkAutoThrottle.value = 1;
+    frmSettings->chkEnableASPI.value = 1;
+    frmSettings->chkLimit28bit.value = 0;
+    frmSettings->chkUseCompression.value = 1;
+    frmSettings->txtTargetkbps.text = QString("42");
+    ui::click(frmSettings->cmdDefaults);
+    EXPECT_EQ(frmMain.txtIP.text.get(), "192.168.0.10");
+    EXPECT_EQ(frmSettings->chkAutoThrottle.value, 0);
+    EXPECT_EQ(frmSettings->chkEnableASPI.value, 0);
+    EXPECT_EQ(frmSettings->chkLimit28bit.value, 1);
+    EXPECT_EQ(frmSettings->chkUseCompression.value, 0);
+    EXPECT_EQ(frmSettings->txtTargetkbps.text.get(), "2300");
 }
 
 TEST_F(SettingsAtStart, EverySettingIsShownAndTakesEffect) {

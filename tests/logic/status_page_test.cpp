@@ -7,7 +7,7 @@ namespace tarnwell::test {
 namespace {
 
 WorkInProgress sample() {
-    return {.job = "Installing [RATCHET] onto Device [192.168.0.10]",
+    return {.job = "Installing [LANTERN] onto Device [192.168.0.10]",
             .percent = "42",
             .elapsed = "00:01:02",
             .remaining = "6 min remaining",
@@ -53,7 +53,7 @@ TEST(StatusPage, IsTheseBytes) {
         "\r\n"
         "<TABLE BORDER=2 CELLPADDING=4 BGCOLOR=gray BORDERCOLORDARK=black BORDERCOLORLIGHT=white>\r\n\r\n"
         "<TR> <TH COLSPAN=2 BGCOLOR=\"#3232FF\">Current Task</TH> </TR>\r\n\r\n"
-        "<TR> <TD>Current Task</TD>      <TD>Installing [RATCHET] onto Device "
+        "<TR> <TD>Current Task</TD>      <TD>Installing [LANTERN] onto Device "
         "[192.168.0.10]</TD> </TR>\r\n\r\n"
         "<TR> <TD>Percent Complete</TD>  <TD>42%</TD> </TR>\r\n\r\n"
         "<TR> <TD>Elapsed Time</TD>      <TD>00:01:02</TD> </TR>\r\n\r\n"
@@ -87,7 +87,7 @@ TEST(StatusPage, WhatABrowserTakesForMarkupIsShownAsText) {
 }
 
 TEST(StatusPage, WhatIsNoMarkupGoesOutAsItIs) {
-    EXPECT_EQ(jobCell("Ratchet & Clank \"2\" 'b' a=b; &"), "Ratchet & Clank \"2\" 'b' a=b; &");
+    EXPECT_EQ(jobCell("Lantern & Quill \"2\" 'b' a=b; &"), "Lantern & Quill \"2\" 'b' a=b; &");
     EXPECT_EQ(jobCell("&&"), "&&");
     EXPECT_EQ(jobCell(""), "");
 }

@@ -35,7 +35,7 @@ struct StatusServer : QueueTest {
     bool captionIsTitle() { return frmMain.caption.get() == kTitle; }
 
     void installNow() {
-        ports.dialogs.openFileAnswers.push_back("/games/ratchet.iso");
+        ports.dialogs.openFileAnswers.push_back("/games/lantern.iso");
         ui::click(frmMain.optInstall);
         ui::click(frmMain.cmdISO);
         EXPECT_TRUE(ui::click(frmMain.cmdInstall));
@@ -235,7 +235,7 @@ TEST_F(StatusServer, AnInstallShowsTheJobNumbersAsTheyStand) {
     QByteArray page;
     ports.pump.after(3000, [&] { page = fetch(); });
     installNow();
-    EXPECT_EQ(row(page, "Current Task"), "Installing RATCHET");
+    EXPECT_EQ(row(page, "Current Task"), "Installing LANTERN");
     EXPECT_EQ(row(page, "Job Status"), "Job 0 of 0");
     EXPECT_EQ(row(page, "Elapsed Time", 1), row(page, "Elapsed Time"));
 
@@ -299,6 +299,16 @@ TEST_F(StatusServer, ATestRunsForTheLengthOfAMessageBox) {
               "site that shows it.\r\n\r\n"
               "If your browser fails to connect then you may have to configure your router to allow the "
               "port 80 connection.");
+}
+
+TEST_F(StatusServer, IsStoppedIfTheMainWindowIsClosedDuringATest) {
+    ports.dialogs.whileOpen = [&] {
+        EXPECT_TRUE(active());
+        ui::close(frmMain);
+    };
+    EXPECT_TRUE(ui::click(frmSettings->cmdTest));
+    EXPECT_TRUE(ports.pump.ended());
+    EXPECT_TRUE(stopped());
 }
 
 TEST_F(StatusServer, ATestDuringWorkEndsTheServerAndLeavesTheTitle) {

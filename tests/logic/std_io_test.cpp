@@ -4,6 +4,7 @@
 #include "tool/stop_tool.h"
 
 #include <gtest/gtest.h>
+#include <utility>
 
 using namespace tarnwell;
 using namespace tarnwell::test;
@@ -105,6 +106,17 @@ TEST_F(StdIOTest, AProgramThatCannotBeStartedRaisesAnError) {
     EXPECT_TRUE(StdIO.Ready());
 }
 
+TEST_F(StdIOTest, WhyAProgramCannotBeStartedIsKnownUntilOneCan) {
+    EXPECT_EQ(StdIO.whyNotStarted(), "");
+    ports.launcher.script = [](const QString&) { return std::nullopt; };
+    ports.launcher.whyNot = "Exec format error.";
+    StdIO.ExecuteCommand("tool");
+    EXPECT_EQ(StdIO.whyNotStarted(), "Exec format error.");
+    program({});
+    StdIO.ExecuteCommand("tool");
+    EXPECT_EQ(StdIO.whyNotStarted(), "");
+}
+
 TEST_F(StdIOTest, ASecondCommandDuringARunIsRefusedAndTheFirstGoesOn) {
     program({.output = {{"answer", 100}}, .endsAtMs = 200});
     QString second = "not called";
@@ -128,6 +140,54 @@ TEST_F(StdIOTest, CancelEndsTheRunAtTheNextPassAndKeepsWhatWasRead) {
     EXPECT_LT(ports.clock.now, 2000);
     EXPECT_EQ(events, QStringList("CancelSuccess"));
     EXPECT_EQ(ports.processes.closeRequests.size(), 1u);
+}
+
+TEST_F(StdIOTest, CancelAfterTheLastChunkStillCountsAsOne) {
+    program({.output = {{"last", 0}}, .endsAtMs = 20});
+    StdIO.GotData = [this](const QString&) { ports.pump.queue([this] { StdIO.Cancel(); }); };
+    EXPECT_EQ(StdIO.ExecuteCommand("tool"), "last");
+    EXPECT_EQ(events, QStringList("CancelSuccess"));
+}
+
+TEST_F(StdIOTest, ACancelledRunTakesOneMoreChunkOfWhatWaits) {
+    program({.output = {{QByteArray(20000, 'x'), 0}}, .endsAtMs = 100000});
+    StdIO.GotData = [&, first = true](const QString&) mutable {
+        if (std::exchange(first, false))
+            StdIO.Cancel();
+    };
+    EXPECT_EQ(StdIO.ExecuteCommand("tool").size(), 2 * 4096);
+}
+
+TEST_F(StdIOTest, CancelEndsTheReadingOfWhatWaitsWhenTheProgramHasGone) {
+    program({.output = {{QByteArray(20000, 'x'), 0}}, .endsAtMs = 20});
+    int reads = 0;
+    StdIO.GotData = [&](const QString&) {
+        if (++reads == 2)
+            ports.pump.queue([&] { StdIO.Cancel(); });
+    };
+    EXPECT_EQ(StdIO.ExecuteCommand("tool").size(), 2 * 4096);
+    EXPECT_EQ(events, QStringList("CancelSuccess"));
+}
+
+TEST_F(StdIOTest, AfterACancelledRunTheNextRunsToItsEnd) {
+    program({.endsAtMs = 100000});
+    ports.pump.after(100, [&] { StdIO.Cancel(); });
+    StdIO.ExecuteCommand("tool");
+    program({.output = {{"early", 0}, {"late", 500}}, .endsAtMs = 600});
+    EXPECT_EQ(StdIO.ExecuteCommand("tool"), "earlylate");
+    EXPECT_EQ(events, QStringList({"CancelSuccess", "Complete"}));
+}
+
+TEST_F(StdIOTest, AfterAnInterruptedRunTheNextRunsToItsEndAndCanBeInterrupted) {
+    program({.endsAtMs = 100000});
+    ports.pump.after(100, [&] { ShowStopPrompt(StdIO); });
+    StdIO.ExecuteCommand("tool");
+    program({.output = {{"answer", 500}}, .endsAtMs = 600});
+    EXPECT_EQ(StdIO.ExecuteCommand("tool"), "answer");
+    program({.endsAtMs = 100000});
+    ports.pump.after(100, [&] { ShowStopPrompt(StdIO); });
+    StdIO.ExecuteCommand("tool");
+    EXPECT_EQ(ports.launcher.children[2]->interrupts, 1);
 }
 
 TEST_F(StdIOTest, ACancelledProgramThatCannotBeAskedToCloseIsLeftAlone) {

@@ -1,5 +1,5 @@
-#include "app/fault.h"
-#include "interpreter/text_primitives.h"
+#include "base/fault.h"
+#include "base/text_primitives.h"
 #include "support/gtest_qt.h"
 
 #include <gtest/gtest.h>
@@ -15,6 +15,8 @@ TEST(Val, ReadsTheNumberAtTheStart) {
     EXPECT_EQ(Val("+3"), 3);
     EXPECT_EQ(Val("1.2.3"), 1.2);
     EXPECT_EQ(Val("1-2"), 1);
+    EXPECT_EQ(Val("1+2"), 1);
+    EXPECT_EQ(Val("1e2+3"), 100);
 }
 
 TEST(Val, ReadsExponentsOfBothLetters) {

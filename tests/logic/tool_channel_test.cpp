@@ -75,6 +75,23 @@ TEST_F(ToolChannelTest, AToolThatCannotBeStartedIsTriedFourTimes) {
     EXPECT_EQ(ports.dialogs.messageTexts(), QStringList(kUnknownError));
 }
 
+TEST_F(ToolChannelTest, WhyTheToolCannotBeStartedStandsInTheOutputBoxUntilItCan) {
+    const auto usual = ports.launcher.script;
+    ports.launcher.script = [](const QString&) { return std::nullopt; };
+    ports.launcher.whyNot = "The requested operation requires elevation.";
+    channel.Tarn_Execute("delete hdd1: Game");
+    EXPECT_EQ(frmMain.txtOutput.text.get(), "The requested operation requires elevation.");
+    frmMain.txtOutput.text = "";
+    ports.dialogs.whileOpen = [&] {
+        EXPECT_EQ(frmMain.txtOutput.text.get(), "The requested operation requires elevation.");
+    };
+    channel.Tarn_Command("query");
+    EXPECT_EQ(ports.dialogs.messageTexts(), QStringList(kUnknownError));
+    ports.launcher.script = usual;
+    channel.Tarn_Execute("delete hdd1: Game");
+    EXPECT_EQ(frmMain.txtOutput.text.get(), "");
+}
+
 TEST_F(ToolChannelTest, AcrossMidnightTheWaitLastsUntilOutputComes) {
     ports.clock.secondsAtZero = 24 * 60 * 60 - 2; // the clock starts at 1 s: one second to midnight
     ports.pump.after(60 * 1000, [this] { ports.launcher.on("query", QByteArray("never asked")); });
@@ -144,6 +161,40 @@ TEST_F(ToolChannelTest, TheOutputBoxHoldsTheLatestChunkWithoutItsLineEnd) {
     EXPECT_EQ(shown, QStringList({"one", "two\n", "three\r"}));
 }
 
+TEST_F(ToolChannelTest, TheOutputBoxIsEmptiedBeforeEachRun) {
+    for (const bool mustAnswer : {true, false}) {
+        frmMain.txtOutput.text = QString("of the run before");
+        QString atStart = "not started";
+        ports.launcher.script = [&](const QString&) {
+            atStart = frmMain.txtOutput.text;
+            return ChildScript{.output = {{"answer"}}};
+        };
+        if (mustAnswer)
+            channel.Tarn_Command("query");
+        else
+            channel.Tarn_Execute("delete hdd1: Game");
+        EXPECT_EQ(atStart, "");
+    }
+}
+
+TEST_F(ToolChannelTest, ASilentRunLeavesTheOutputBoxEmpty) {
+    frmMain.txtOutput.text = QString("of the run before");
+    channel.Tarn_Execute("delete hdd1: Game");
+    EXPECT_EQ(frmMain.txtOutput.text.get(), "");
+}
+
+TEST_F(ToolChannelTest, AChunkIsShownThenTimedThenInterpreted) {
+    shared.blnInstallRunning = true;
+    shared.lJobStartTick = ports.clock.tickCount() - 60'000;
+    QStringList steps;
+    frmMain.txtOutput.text.changed.connect([&] { steps += frmMain.txtOutput.text.get(); });
+    shared.frmStatus->lblCurrentElapsed.caption.changed.connect([&] { steps += "clock"; });
+    shared.frmStatus->picCurrent.tag.changed.connect([&] { steps += "bar"; });
+    ports.launcher.on("inject", QByteArray("5%\r"));
+    channel.Tarn_Execute("inject");
+    EXPECT_EQ(steps, QStringList({"5%\r", "clock", "bar"}));
+}
+
 TEST_F(ToolChannelTest, AChunkOfALineEndAloneEmptiesTheOutputBox) {
     ports.launcher.on("query", ChildScript{.output = {{"text", 0}, {"\r\n", 100}}, .endsAtMs = 300});
     channel.Tarn_Command("query");
@@ -169,6 +220,53 @@ TEST_F(ToolChannelTest, DuringAQueueTheOverallTimeCountsFromItsStart) {
     channel.Tarn_Command("inject");
     EXPECT_EQ(shared.frmStatus->lblCurrentElapsed.caption.get(), "00:00:02");
     EXPECT_EQ(shared.frmStatus->lblOverallElapsed.caption.get(), "01:00:02");
+}
+
+TEST_F(ToolChannelTest, TheLastWordOfAJobStillMovesTheClocks) {
+    shared.blnQueueRunning = true;
+    shared.lJobStartTick = shared.lQueueStartTick = ports.clock.tickCount();
+    ports.launcher.on("inject", ChildScript{.output = {{"100%\r", 61000}}, .endsAtMs = 61000});
+    channel.Tarn_Command("inject");
+    EXPECT_EQ(shared.frmStatus->lblCurrentElapsed.caption.get(), "00:01:01");
+    EXPECT_EQ(shared.frmStatus->lblOverallElapsed.caption.get(), "00:01:01");
+}
+
+TEST_F(ToolChannelTest, TheClocksMoveBeforeTheOutputIsUnderstood) {
+    shared.blnQueueRunning = true;
+    shared.lJobStartTick = shared.lQueueStartTick = ports.clock.tickCount();
+    ports.launcher.on("inject", ChildScript{.output = {{"50%\r", 61000}}, .endsAtMs = 61000});
+    QStringList seen;
+    ui::FrmStatus& status = shared.frmStatus.untouched();
+    status.picCurrent.drawing.changed.connect([&] {
+        seen = {status.lblCurrentElapsed.caption, status.lblOverallElapsed.caption};
+    });
+    channel.Tarn_Command("inject");
+    EXPECT_EQ(seen, (QStringList{"00:01:01", "00:01:01"}));
+}
+
+TEST_F(ToolChannelTest, ACommandInTheMiddleOfReadingAnAnswerDoesNotUnsayTheAnswer) {
+    shared.blnInstallRunning = true;
+    shared.frmStatus->picCurrent.tag.changed.connect([this] { channel.Tarn_Command("query"); });
+    ports.launcher.on("inject", QByteArray("5%\r"));
+    EXPECT_EQ(channel.Tarn_Command("inject"), "5%\r");
+    EXPECT_EQ(ports.launcher.children.size(), 1u) << "a tool that has spoken is not run once more";
+    EXPECT_EQ(ports.dialogs.messageTexts(), QStringList(kUnknownError)) << "of the command that came between";
+}
+
+TEST_F(ToolChannelTest, ACommandIsShownWhileItWaitsForTheToolThatWasStopped) {
+    ports.launcher.on("first", ChildScript{.endsAtMs = 100'000, .farewellTakesMs = 5000});
+    ports.pump.after(100, [this] { StdIO.interrupt(); });
+    channel.Tarn_Execute("first");
+    QString shown, output;
+    ports.pump.after(1000, [&] {
+        shown = frmMain.txtCommand.text;
+        output = frmMain.txtOutput.text;
+    });
+    channel.Tarn_Execute("second");
+    EXPECT_EQ(shown, "second");
+    EXPECT_EQ(output, "tarnwell.exe was told to stop and has not ended yet. This command waits for it.");
+    EXPECT_EQ(frmMain.txtOutput.text.get(), "");
+    EXPECT_EQ(ports.launcher.children.size(), 2u);
 }
 
 TEST_F(ToolChannelTest, TheChunksOfAGameListAreWithheld) {

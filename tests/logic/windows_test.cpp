@@ -1,13 +1,9 @@
 #include "support/program_test.h"
 
-#include <QDir>
-
 using namespace tarnwell;
 using namespace tarnwell::test;
 
 namespace {
-
-struct StartUp : ProgramTest {};
 
 struct Windows : ProgramTest {
     Windows() { start(); }
@@ -15,79 +11,27 @@ struct Windows : ProgramTest {
         frmStatus->picCurrent.tag = QString("50");
         frmStatus->show();
     }
+    /// Notes which window comes or goes, in order.
+    void noteShowing() {
+        for (ui::Form* form : std::initializer_list<ui::Form*>{&frmMain, &frmStatus.untouched()})
+            form->visible.changed.connect(
+                [this, form] { showing += form->name + (form->shown() ? " up" : " away"); });
+    }
+    QStringList showing;
 };
 
+struct DuringWork : Windows, testing::WithParamInterface<bool Shared::*> {
+    DuringWork() {
+        program.shared().*GetParam() = true;
+        useStatus();
+        noteShowing();
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(OfAnyKind, DuringWork,
+                         testing::Values(&Shared::blnQueueRunning, &Shared::blnInstallRunning));
+
 } // namespace
-
-TEST_F(StartUp, WritesTheDefaultsIfThereIsNoStore) {
-    start();
-    EXPECT_EQ(stored("Font"), "Tahoma,8,False,False,");
-    EXPECT_EQ(frmMain.txtIP.text.get(), "192.168.0.10");
-}
-
-TEST_F(StartUp, LeavesAnExistingStoreAlone) {
-    writeFile("config.cfg", "[tarnwell]\r\nViewOutput=0\r\n");
-    start();
-    EXPECT_EQ(frmMain.txtIP.text.get(), "192.168.0.10");
-    EXPECT_EQ(stored("IP"), "") << "the key stays missing until the text is changed";
-    ui::type(frmMain.txtIP, "10.0.0.1");
-    EXPECT_EQ(stored("IP"), "10.0.0.1");
-}
-
-TEST_F(StartUp, ShowsTheStoredAddress) {
-    writeFile("config.cfg", "[tarnwell]\r\nIP=10.1.2.3\r\n");
-    start();
-    EXPECT_EQ(frmMain.txtIP.text.get(), "10.1.2.3");
-}
-
-TEST_F(StartUp, OpensTallIfTheActivityIsToBeSeen) {
-    writeFile("config.cfg", "[tarnwell]\r\nViewOutput=01\r\n");
-    start();
-    EXPECT_EQ(frmMain.height, 6365);
-    EXPECT_EQ(frmMain.chkOutput.value, 1);
-    EXPECT_EQ(stored("ViewOutput"), "1") << "the value is stored again, as a number";
-}
-
-TEST_F(StartUp, StandsInTheMiddleOfTheScreen) {
-    start();
-    EXPECT_TRUE(frmMain.shown());
-    EXPECT_EQ(frmMain.height, 3740);
-    EXPECT_EQ(frmMain.left, ports.windows.screen.width / 2 - frmMain.width / 2);
-    EXPECT_EQ(frmMain.top, ports.windows.screen.height / 2 - frmMain.height / 2);
-    EXPECT_EQ(frmMain.fmJob.left, 120);
-    EXPECT_EQ(frmMain.fmJob.top, 0);
-}
-
-TEST_F(StartUp, SetsTheWidthsOfTheColumns) {
-    start();
-    std::vector<int> games, jobs;
-    for (const ui::Column& column : frmMain.lstHD.columns.get())
-        games.push_back(column.width);
-    for (const ui::Column& column : frmMain.lstJob.columns.get())
-        jobs.push_back(column.width);
-    EXPECT_EQ(games, (std::vector{1400, 1070, 720, 540, 560}));
-    EXPECT_EQ(jobs, (std::vector{1000, 1125, 1100, 1375, 1700, 1200, 900, 1000}));
-}
-
-TEST_F(StartUp, PutsTheTitleIntoTheTray) {
-    start();
-    EXPECT_TRUE(ports.tray.shown);
-    EXPECT_EQ(ports.tray.tip(), " Tarnwell GUI v1.5 by mirelane");
-    EXPECT_EQ(frmMain.picDiskSpace.drawing.get().text, "0%");
-}
-
-TEST_F(StartUp, WorksWhereNothingCanBeWritten) {
-    // A program that cannot keep its data folder either looks for the tool's file where it was started.
-    const QString before = QDir::currentPath();
-    QDir::setCurrent(ports.folders.folder);
-    ports.folders.folder += "/missing";
-    start();
-    QDir::setCurrent(before);
-    EXPECT_TRUE(frmMain.shown());
-    EXPECT_EQ(frmMain.txtIP.text.get(), "192.168.0.10");
-    ui::type(frmMain.txtIP, "10.0.0.1");
-    EXPECT_TRUE(ports.dialogs.messages.empty());
-}
 
 TEST_F(Windows, PagesSwitchByTheirOptions) {
     ui::click(frmMain.optBrowse);
@@ -133,6 +77,13 @@ TEST_F(Windows, TheOutputBoxShowsItsEndWithoutACaret) {
     EXPECT_FALSE(frmMain.txtOutput.caretVisible);
 }
 
+TEST_F(Windows, AClickIntoTheOutputShowsNoCaret) {
+    frmMain.txtOutput.caretVisible = true;
+    ui::click(frmMain.chkOutput);
+    EXPECT_TRUE(ui::click(frmMain.txtOutput));
+    EXPECT_FALSE(frmMain.txtOutput.caretVisible);
+}
+
 TEST_F(Windows, MinimizeHidesTheMainWindowAlone) {
     frmStatus->show();
     ui::click(frmMain.cmdMinimize);
@@ -141,17 +92,29 @@ TEST_F(Windows, MinimizeHidesTheMainWindowAlone) {
     EXPECT_EQ(frmMain.mnuMinimize.caption.get(), "Maximize");
 }
 
-TEST_F(Windows, TheTrayEntryHidesBothDuringWork) {
-    program.shared().blnQueueRunning = true;
-    frmStatus->show();
-    ui::click(frmMain.mnuMinimize);
-    EXPECT_FALSE(frmMain.shown());
-    EXPECT_FALSE(frmStatus->shown());
+TEST_P(DuringWork, MinimizeLeavesTheStatusWindowUp) {
+    ui::click(frmMain.cmdMinimize);
+    EXPECT_EQ(showing, QStringList("frmMain away"));
     EXPECT_EQ(frmMain.mnuMinimize.caption.get(), "Maximize");
+}
+
+TEST_P(DuringWork, TheTrayEntryHidesBothAndBringsBothBackWithTheMainWindowInFront) {
     ui::click(frmMain.mnuMinimize);
-    EXPECT_TRUE(frmMain.shown());
-    EXPECT_TRUE(frmStatus->shown());
+    EXPECT_EQ(showing, QStringList({"frmStatus away", "frmMain away"}));
+    EXPECT_EQ(frmMain.mnuMinimize.caption.get(), "Maximize");
+    showing.clear();
+    ui::click(frmMain.mnuMinimize);
+    EXPECT_EQ(showing, QStringList({"frmStatus up", "frmMain up"}));
     EXPECT_EQ(frmMain.mnuMinimize.caption.get(), "Minimize");
+}
+
+TEST_F(Windows, AfterWorkTheStatusWindowComesBackInFrontOfTheMainWindow) {
+    useStatus();
+    frmStatus->hide();
+    ui::click(frmMain.cmdMinimize);
+    noteShowing();
+    ui::click(frmMain.mnuMinimize);
+    EXPECT_EQ(showing, QStringList({"frmMain up", "frmStatus up"}));
 }
 
 TEST_F(Windows, TheTrayEntryLeavesAnIdleStatusWindowAlone) {
@@ -203,6 +166,17 @@ TEST_F(Windows, ADoubleClickOnTheTrayBringsBackAMinimisedStatusWindowAfterItsJob
     EXPECT_EQ(frmStatus->windowState, ui::WindowState::Normal);
 }
 
+TEST_F(Windows, DuringWorkTheStatusWindowComesBackFirstAndEndsUpInFront) {
+    frmStatus->load();
+    ui::click(frmMain.cmdMinimize);
+    program.shared().blnQueueRunning = true;
+    QStringList shows;
+    frmMain.visible.assigned = [&](bool) { shows += "main"; };
+    frmStatus->visible.assigned = [&](bool) { shows += "status"; };
+    ports.tray.doubleClicked();
+    EXPECT_EQ(shows, QStringList({"status", "main", "status"}));
+}
+
 TEST_F(Windows, TheSettingsComeBackIfTheyWereMinimised) {
     ui::click(frmMain.cmdSettings);
     program.shared().frmSettings->windowState = ui::WindowState::Minimised;
@@ -236,42 +210,6 @@ TEST_F(Windows, TheStatusWindowHidesByItsButtonAndClosesWhenIdle) {
     EXPECT_FALSE(frmStatus->shown());
     EXPECT_EQ(frmStatus->windowState, ui::WindowState::Normal);
     EXPECT_TRUE(ui::close(frmStatus.untouched()));
-}
-
-TEST_F(Windows, ExitRemovesTheTrayIconAndEnds) {
-    ui::click(frmMain.cmdExit);
-    EXPECT_FALSE(ports.tray.shown);
-    EXPECT_TRUE(ports.pump.ended());
-    EXPECT_TRUE(ports.launcher.children.empty());
-}
-
-TEST_F(Windows, ExitTurnsTheConsoleOffInBothPassesIfSet) {
-    store("ClosePS2", "1");
-    ui::click(frmMain.cmdExit);
-    EXPECT_EQ(ports.launcher.commandLines(), QStringList(2, path("tarnwell.exe") + " poweroff 192.168.0.10"));
-}
-
-TEST_F(Windows, ExitSkipsAConsoleThatDoesNotAnswerWithoutAWord) {
-    store("ClosePS2", "1");
-    ports.ping.reply = {.status = FakePing::kTimedOut};
-    ui::click(frmMain.mnuExit);
-    EXPECT_TRUE(ports.launcher.children.empty());
-    EXPECT_TRUE(ports.dialogs.messages.empty());
-    EXPECT_TRUE(ports.pump.ended());
-}
-
-TEST_F(Windows, ExitLeavesTheConsoleOnInLocalMode) {
-    store("ClosePS2", "1");
-    answerQueryWith(kTwoDisks);
-    ui::click(frmMain.optLocal);
-    ui::click(frmMain.cmdExit);
-    EXPECT_EQ(commands(), QStringList("query"));
-}
-
-TEST_F(Windows, TheCloseBoxGoesTheSameWayOut) {
-    ui::close(frmMain);
-    EXPECT_TRUE(ports.pump.ended());
-    EXPECT_FALSE(ports.tray.shown);
 }
 
 TEST_F(Windows, AFaultInAHandlerIsToldAndTheProgramGoesOn) {

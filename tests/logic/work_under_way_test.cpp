@@ -1,4 +1,4 @@
-#include "app/fault.h"
+#include "base/fault.h"
 #include "logic/queue_test.h"
 
 namespace tarnwell::test {
@@ -13,7 +13,7 @@ struct WorkUnderWay : QueueTest {
 
     void prepareInstall() {
         ui::click(frmMain.cmdControls);
-        ports.dialogs.openFileAnswers.push_back("/games/ratchet.iso");
+        ports.dialogs.openFileAnswers.push_back("/games/lantern.iso");
         ui::click(frmMain.cmdISO);
     }
     void lookInTheMiddle() {

@@ -1,5 +1,5 @@
-#include "platform/desktop_ports.h"
 #include "platform/helpers.h"
+#include "platform/qt/desktop_ports.h"
 #include "platform/system_helpers.h"
 #include "support/gtest_qt.h"
 
@@ -24,7 +24,8 @@ TEST(DesktopPorts, TheComposedPortsWorkTogether) {
     DesktopPorts desktop(QIcon(), pixelsPerTwip, toColor);
     const Ports ports = desktop.ports();
     test::runProgram(desktop.pump, [&] {
-        const auto child = ports.launcher.start(test::childCommand("bytes 3"));
+        QString whyNot;
+        const auto child = ports.launcher.start(test::childCommand("bytes 3"), whyNot);
         ASSERT_TRUE(child);
         EXPECT_TRUE(ports.processes.exists(child->processId()));
         const qint32 start = ports.clock.tickCount();

@@ -31,7 +31,7 @@ std::vector<Open> waysToOpenABox() {
 }
 
 TEST_F(DialogsTest, AnInputIsFilledAndGivesWhatTheUserHasWritten) {
-    const QString command = "delete hdd1: \"<b>Ratchet & Clank</b>\"";
+    const QString command = "delete hdd1: \"<b>Lantern & Quill</b>\"";
     whenOpen<QInputDialog>([&](QInputDialog& box) {
         EXPECT_EQ(box.windowTitle(), "Edit command");
         EXPECT_EQ(box.labelText(), "Make changes and click OK to save.");
@@ -43,6 +43,14 @@ TEST_F(DialogsTest, AnInputIsFilledAndGivesWhatTheUserHasWritten) {
         box.accept();
     });
     EXPECT_EQ(dialogs_.input("Make changes and click OK to save.", "Edit command", command), "  x  ");
+}
+
+TEST_F(DialogsTest, AnInputGivesOneLineWhateverWasPasted) {
+    whenOpen<QInputDialog>([](QInputDialog& box) {
+        box.findChild<QLineEdit*>()->setText("query\r\nhdd1:\n");
+        box.accept();
+    });
+    EXPECT_EQ(dialogs_.input("prompt", "title", "text"), "query hdd1:");
 }
 
 TEST_F(DialogsTest, ACancelledInputGivesNothing) {

@@ -31,8 +31,14 @@ inline QString childCommand(const QString& act) {
     return native(builtProgram("child_helper")) + u' ' + act;
 }
 
+/// Null if it cannot be started.
+inline std::unique_ptr<ChildProcess> startProgram(const QString& commandLine) {
+    QString whyNot;
+    return QtProcessLauncher().start(commandLine, whyNot);
+}
+
 inline std::unique_ptr<ChildProcess> startChild(const QString& act) {
-    return QtProcessLauncher().start(childCommand(act));
+    return startProgram(childCommand(act));
 }
 
 /// Serves events until the condition holds. False if that takes too long.

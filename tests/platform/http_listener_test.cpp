@@ -100,7 +100,7 @@ struct RealHttpListener : testing::Test {
 
     QtHttpListener listener;
     QByteArrayList heard;
-    const QByteArray page = BuildStatusPage({.job = "Installing RATCHET"});
+    const QByteArray page = BuildStatusPage({.job = "Installing LANTERN"});
 };
 
 TEST_F(RealHttpListener, AnswersOnTheConnectionAndLeavesItOpen) {

@@ -5,7 +5,7 @@
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    auto child = tarnwell::QtProcessLauncher().start(arguments.value(2));
+    auto child = tarnwell::test::startProgram(arguments.value(2));
     if (!child || !tarnwell::test::readUntil(*child, "ready\n"))
         return 1;
     if (arguments.value(1) == "drop-child")

@@ -141,7 +141,19 @@ TEST(ProcessLauncher, TheProgramsPathMayHoldBlanks) {
     ASSERT_TRUE(QDir(folder.path()).mkpath("my tools"));
     const QString tool = folder.filePath("my tools/the tool.exe");
     ASSERT_TRUE(QFile::copy(builtProgram("child_helper"), tool));
-    const auto child = QtProcessLauncher().start(native(tool) + " arguments x y");
+    const auto child = test::startProgram(native(tool) + " arguments x y");
+    ASSERT_TRUE(child);
+    EXPECT_EQ(readAll(*child), "[x]\n[y]\n");
+}
+
+TEST(ProcessLauncher, AProgramOfAShorterNameIsNotStartedInItsPlace) {
+    const QTemporaryDir folder;
+    ASSERT_TRUE(QDir(folder.path()).mkpath("my tools"));
+    const QString tool = folder.filePath("my tools/the tool.exe");
+    for (const QString& program : {tool, folder.filePath("my"), folder.filePath("my.exe"),
+                                   folder.filePath("my tools/the"), folder.filePath("my tools/the.exe")})
+        ASSERT_TRUE(QFile::copy(builtProgram("child_helper"), program));
+    const auto child = test::startProgram(native(tool) + " arguments x y");
     ASSERT_TRUE(child);
     EXPECT_EQ(readAll(*child), "[x]\n[y]\n");
 }
@@ -152,7 +164,7 @@ TEST(ProcessLauncher, TheProgramsPathMayHoldAnyLetters) {
         QString::fromUtf8("Sp\xc3\xab\xc3\xaflz\xc3\xbcg \xe3\x82\xb2\xe3\x83\xbc\xe3\x83\xa0"));
     ASSERT_TRUE(QDir().mkpath(tools));
     ASSERT_TRUE(QFile::copy(builtProgram("child_helper"), tools + "/tool.exe"));
-    const auto child = QtProcessLauncher().start(native(tools + "/tool.exe") + " arguments x y");
+    const auto child = test::startProgram(native(tools + "/tool.exe") + " arguments x y");
     ASSERT_TRUE(child);
     EXPECT_EQ(readAll(*child), "[x]\n[y]\n");
 }
@@ -176,12 +188,11 @@ TEST(ProcessLauncher, WhatCannotBeStartedGivesNothing) {
     const QString noProgram = makeFile("no-program", "just words");
     ASSERT_TRUE(QFile::setPermissions(noProgram, QFile::ReadOwner | QFile::ExeOwner));
 
-    QtProcessLauncher launcher;
-    EXPECT_FALSE(launcher.start(folder.filePath("missing") + " query"));
-    EXPECT_FALSE(launcher.start(plain + " query")) << "not executable";
-    EXPECT_FALSE(launcher.start(noProgram + " query"));
-    EXPECT_FALSE(launcher.start(folder.path() + " query"));
-    EXPECT_FALSE(launcher.start(""));
+    EXPECT_FALSE(test::startProgram(folder.filePath("missing") + " query"));
+    EXPECT_FALSE(test::startProgram(plain + " query")) << "not executable";
+    EXPECT_FALSE(test::startProgram(noProgram + " query"));
+    EXPECT_FALSE(test::startProgram(folder.path() + " query"));
+    EXPECT_FALSE(test::startProgram(""));
 }
 
 TEST(ProcessLauncher, TheProgramReadsWhatIsWrittenToIt) {

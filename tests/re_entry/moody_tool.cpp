@@ -29,14 +29,14 @@ QByteArray gamesOf(const QString& device) {
     const QByteArray startup = MoodyTool::startupOn(device).toLatin1();
     return "type   size flags          dma startup      name\r\n"
            "DVD 4193280KB                " +
-           startup + "   Ratchet\r\nCD   716800KB +1             " + startup +
-           "   Tekken Tag\r\ntotal 114473MB, used 26712MB, available 87761MB\r\n";
+           startup + "   Lantern " + startup + "\r\nCD   716800KB +1             " + startup +
+           "   Copper Run " + startup + "\r\ntotal 114473MB, used 26712MB, available 87761MB\r\n";
 }
 
 QByteArray disc(const QString& source) {
     const char* const startup =
         source.endsWith(".iso\"") ? MoodyTool::kStartupInImage : MoodyTool::kStartupOnDisc;
-    return QByteArray("DVD 4193280KB \"RATCHET\" \"") + startup + "\"\r\n";
+    return QByteArray("DVD 4193280KB \"LANTERN\" \"") + startup + "\"\r\n";
 }
 
 } // namespace

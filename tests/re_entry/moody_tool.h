@@ -14,7 +14,8 @@ public:
     bool moody = false;
     std::optional<ChildScript> answerTo(const QString& command);
 
-    /// The startup file of every game on a device, which tells where the game was read.
+    /// The startup file of every game on a device, which tells where the game was read. Its name ends so,
+    /// too.
     static QString startupOn(const QString& device);
     /// The same of the game in an image, and of that on a disc.
     static constexpr const char *kStartupInImage = "IMG_200.71", *kStartupOnDisc = "DSC_200.71";

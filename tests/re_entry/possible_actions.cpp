@@ -14,8 +14,8 @@ const char* const kTexts[] = {"", " ", "192.168.0.10", "10.0.0.9", "Some Game", 
 PossibleActions::PossibleActions(Shared& shared, FakeTray& tray, Random& random)
     : shared_(shared), tray_(tray), random_(random) {
     for (ui::Form* form : forms()) {
+        form->menuWanted.connect([this](ui::PopupMenu& menu, const ui::Control&) { openMenu_ = &menu; });
         for (ui::PopupMenu* menu : form->menus()) {
-            menu->poppedUp.connect([this, menu](int, int) { openMenu_ = menu; });
             menu->poppedUpAtPointer.connect([this, menu] { openMenu_ = menu; });
             menu->closed.connect([this] { openMenu_ = nullptr; });
         }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/shared.h"
+#include "base/shared.h"
 #include "re_entry/random.h"
 #include "support/fake_ports.h"
 

@@ -1,9 +1,13 @@
 #include "re_entry/scene.h"
 
+#include "interpreter/tool_commands.h"
 #include "support/gtest_qt.h"
 #include "ui/user_actions.h"
 
 #include <QFile>
+#include <QRegularExpression>
+
+#include <algorithm>
 
 namespace tarnwell::test {
 
@@ -44,6 +48,7 @@ void Scene::calmDown() {
     demand(effects().boxes <= kBoxesAnAct * static_cast<std::size_t>(1 + acts_), "a storm of boxes");
     for (const QString& text : ports.dialogs.messageTexts())
         demand(!text.startsWith("Something went wrong inside the program"), text.toStdString());
+    lookAtReports();
     if (ended()) {
         demand(atEnd_ == effects(), "something was done after the end of the program");
         demand(!ports.tray.shown, "the tray icon stays");
@@ -66,6 +71,9 @@ std::optional<ChildScript> Scene::startTool(const QString& commandLine) {
         demand(command.startsWith("poweroff") || !child->runningAt(ports.clock.now),
                "two tools at once: " + child->commandLine.toStdString() + " and " +
                    commandLine.toStdString());
+    // A rename is sent to the address whatever is in use.
+    demandRightDevice(command, frmMain.optLocal.value ? LocalDeviceLong(frmMain.cmbHD.text())
+                                                      : frmMain.txtIP.text.get());
     if (loose_)
         story_.push_back("    tool: " + command.toStdString());
     return tool.answerTo(command);
@@ -129,7 +137,26 @@ void Scene::lookAtRest() {
     demand(frmMain.txtIP.visible == frmMain.optLAN.value, "txtIP does not follow the device");
     demand(frmMain.cmbHD.visible == frmMain.optLocal.value, "cmbHD does not follow the device");
     lookAtOrigins();
+    lookAtJobs();
     demand(!ports.wakeLock.held, "the machine may never sleep again");
+}
+
+/// Nothing is called done for which the tool never ran.
+void Scene::lookAtReports() {
+    const QStringList runs = ports.launcher.commandLines();
+    const auto sent = [&](const QString& command) { return runs.filter("tarnwell.exe " + command).size(); };
+    for (int i = 0; i < frmMain.lstJob.count(); ++i) {
+        const ui::ListView::Row& job = frmMain.lstJob.row(i);
+        demand(job.text != "Complete" || sent(job.tag) > 0,
+               "a job that never ran is complete: " + job.tag.toStdString());
+    }
+    const auto told = [&](const char* words) {
+        return std::ranges::count_if(ports.tray.balloons,
+                                     [&](const auto& balloon) { return balloon.text.endsWith(words); });
+    };
+    demand(told(" deleted from HDD") <= sent("delete "), "a delete that never ran is told");
+    demand(told(" has been formatted for HDLoader") <= sent("initialize "),
+           "a format that never ran is told");
 }
 
 /// What the window shows was told by the source beside which it stands.
@@ -146,7 +173,29 @@ void Scene::lookAtOrigins() {
                    ? !remote
                    : !local && (!remote || origin == MoodyTool::startupOn(frmMain.txtIP.text)),
                "a game of another device: " + origin.toStdString());
+        demand(!local || origin == MoodyTool::startupOn(LocalDeviceLong(frmMain.lstHD.row(i).tag)),
+               "a game that is taken for one of " + frmMain.lstHD.row(i).tag.toStdString());
     }
+}
+
+void Scene::lookAtJobs() {
+    for (int i = 0; i < frmMain.lstJob.count(); ++i)
+        demandRightDevice(frmMain.lstJob.row(i).tag, {});
+}
+
+/// A command names a game of one device, and goes to that device.
+void Scene::demandRightDevice(const QString& command, const QString& deviceOfRename) {
+    static const QRegularExpression copy("((?:HDD|NET)_\\d{7})@([^\"]*)"),
+        work("^(delete|extract|modify) (\\S+) .*?((?:HDD|NET)_\\d{7})");
+    const auto copied = copy.match(command), worked = work.match(command);
+    const auto origin = copied.hasMatch() ? copied.captured(1) : worked.captured(3);
+    if (origin.isEmpty())
+        return;
+    const bool renames = worked.captured(1) == "modify";
+    const QString device = copied.hasMatch() ? copied.captured(2)
+                           : renames         ? deviceOfRename
+                                             : worked.captured(2);
+    demand(origin == MoodyTool::startupOn(device), "sent to another device: " + command.toStdString());
 }
 
 /// What is usable from the start is usable again, but for the controls of the source of an install.

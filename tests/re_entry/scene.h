@@ -52,6 +52,9 @@ private:
     void answerBox();
     void lookAtRest();
     void lookAtOrigins();
+    void lookAtReports();
+    void lookAtJobs();
+    void demandRightDevice(const QString& command, const QString& deviceOfRename);
     void tryOut();
     Effects effects() const;
     void demand(bool holds, const std::string& what);

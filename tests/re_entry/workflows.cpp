@@ -30,7 +30,7 @@ void diskListed(Scene& scene) {
 }
 
 void pickImage(Scene& scene) {
-    scene.ports.dialogs.openFileAnswers.push_back(scene.path("ratchet.iso"));
+    scene.ports.dialogs.openFileAnswers.push_back(scene.path("lantern.iso"));
     must(ui::click(scene.frmMain.cmdISO), "image");
 }
 
@@ -54,6 +54,18 @@ void gameSelected(Scene& scene) {
     consoleListed(scene);
     must(ui::click(scene.frmMain.optBrowse), "browse");
     scene.frmMain.lstHD.select(0);
+}
+
+void gameOfDiskSelected(Scene& scene) {
+    diskListed(scene);
+    must(ui::click(scene.frmMain.optBrowse), "browse");
+    scene.frmMain.lstHD.select(0);
+}
+
+/// The games of the first disk are still on view.
+void anotherDiskChosen(Scene& scene) {
+    gameOfDiskSelected(scene);
+    must(ui::choose(scene.frmMain.cmbHD, 1), "the second disk");
 }
 
 void powerActionsWanted(Scene& scene) {
@@ -148,6 +160,26 @@ const std::vector<Workflow>& workflows() {
         {"delete now", gameSelected, [](Scene& s) { ui::click(s.frmMain.mnuDeleteNow); }},
         {"queue a delete", gameSelected, [](Scene& s) { ui::click(s.frmMain.mnuDeleteQueue); }},
         {"rename", gameSelected, [](Scene& s) { ui::editLabel(s.frmMain.lstHD, 0, "New Name"); }},
+        {"delete now from a disk", gameOfDiskSelected, [](Scene& s) { ui::click(s.frmMain.mnuDeleteNow); }},
+        {"rename on a disk", gameOfDiskSelected,
+         [](Scene& s) { ui::editLabel(s.frmMain.lstHD, 0, "New Name"); }},
+        {"queue a copy of a disk's game to the PC", gameOfDiskSelected,
+         [](Scene& s) { ui::click(s.frmMain.cmdBackupPC); }},
+        {"queue a copy of a disk's game to a disk", gameOfDiskSelected,
+         [](Scene& s) { ui::click(s.frmMain.mnuHDD[1]); }},
+        {"refresh another disk", anotherDiskChosen, [](Scene& s) { ui::click(s.frmMain.cmdAttach); }},
+        {"delete now from another disk", anotherDiskChosen,
+         [](Scene& s) { ui::click(s.frmMain.mnuDeleteNow); }},
+        {"queue a delete from another disk", anotherDiskChosen,
+         [](Scene& s) { ui::click(s.frmMain.mnuDeleteQueue); }},
+        {"rename on another disk", anotherDiskChosen,
+         [](Scene& s) { ui::editLabel(s.frmMain.lstHD, 0, "New Name"); }},
+        {"queue a copy from another disk to the PC", anotherDiskChosen,
+         [](Scene& s) { ui::click(s.frmMain.cmdBackupPC); }},
+        {"queue a copy from another disk to a console", anotherDiskChosen,
+         [](Scene& s) { ui::click(s.frmMain.cmdBackupPS2); }},
+        {"queue a copy from another disk to a disk", anotherDiskChosen,
+         [](Scene& s) { ui::click(s.frmMain.mnuHDD[0]); }},
         {"export the list", gameSelected, [](Scene& s) { ui::click(s.frmMain.cmdSaveList); }},
         {"open the settings", consoleListed, [](Scene& s) { ui::click(s.frmMain.cmdSettings); }},
         {"save the settings", settingsOpen, [](Scene& s) { ui::click(s.frmSettings.cmdExit); }},

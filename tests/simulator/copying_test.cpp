@@ -52,26 +52,26 @@ TEST_F(Copying, ExtractGivesBackTheInjectedBytes) {
 
 TEST_F(Copying, TypeStartupAndFlagsAreKept) {
     makeImage("a.iso");
-    ASSERT_EQ(run({"inject_cd", "hdd1:", "Game", "a.iso", "SLES_000.11", "+1+3+8"}).exitCode, 0);
+    ASSERT_EQ(run({"inject_cd", "hdd1:", "Game", "a.iso", "SLES_990.11", "+1+3+8"}).exitCode, 0);
     const simulator::Game game = disk("hdd1").get("Game");
     EXPECT_EQ(game.type, "CD");
-    EXPECT_EQ(game.startup, "SLES_000.11");
+    EXPECT_EQ(game.startup, "SLES_990.11");
     EXPECT_EQ(game.flags, "+1+3+8");
     EXPECT_EQ(game.sizeBytes, kMb);
 }
 
 TEST_F(Copying, AMissingOrEmptyStartupFileIsReadFromTheImage) {
-    makeImage("a.iso", "SLPM_555.66");
+    makeImage("a.iso", "SLPM_990.66");
     ASSERT_EQ(run({"inject_dvd", "hdd1:", "Without", "a.iso"}).exitCode, 0);
     ASSERT_EQ(run({"inject_dvd", "hdd1:", "Empty", "a.iso", "", "+2"}).exitCode, 0);
-    EXPECT_EQ(disk("hdd1").get("Without").startup, "SLPM_555.66");
-    EXPECT_EQ(disk("hdd1").get("Empty").startup, "SLPM_555.66");
+    EXPECT_EQ(disk("hdd1").get("Without").startup, "SLPM_990.66");
+    EXPECT_EQ(disk("hdd1").get("Empty").startup, "SLPM_990.66");
     EXPECT_EQ(disk("hdd1").get("Empty").flags, "+2");
 }
 
 TEST_F(Copying, WithAStartupFileAnyFileCanBeInstalled) {
     write(folder() / "plain.bin", "no image at all");
-    ASSERT_EQ(run({"inject_cd", "hdd1:", "Plain", "plain.bin", "SLES_000.11"}).exitCode, 0);
+    ASSERT_EQ(run({"inject_cd", "hdd1:", "Plain", "plain.bin", "SLES_990.11"}).exitCode, 0);
     ASSERT_EQ(run({"extract", "hdd1:", "Plain", "back.bin"}).exitCode, 0);
     EXPECT_EQ(read(folder() / "back.bin"), "no image at all");
 }

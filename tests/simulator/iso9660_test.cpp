@@ -142,11 +142,11 @@ TEST_F(IsoImages, GarbageIsSurvived) {
 
 TEST_F(IsoImages, SystemCnfIsReadInAllItsSpellings) {
     const std::pair<const char*, const char*> spellings[] = {
-        {"BOOT2=cdrom0:\\SLES_500.01;1", "SLES_500.01"},
-        {"VER = 1.0\nBOOT2 \t=  cdrom0:\\SLES_500.02;1  ", "SLES_500.02"},
-        {"BOOT2 = cdrom0:SLES_500.03", "SLES_500.03"},
+        {"BOOT2=cdrom0:\\SLES_990.01;1", "SLES_990.01"},
+        {"VER = 1.0\nBOOT2 \t=  cdrom0:\\SLES_990.02;1  ", "SLES_990.02"},
+        {"BOOT2 = cdrom0:SLES_990.03", "SLES_990.03"},
         {"BOOT2 = cdrom0:\\BIN\\MAIN.ELF;1", "MAIN.ELF"},
-        {"BOOT = cdrom:\\SLPS_000.01;1", kNoGame},
+        {"BOOT = cdrom:\\SLPS_990.01;1", kNoGame},
         {"BOOT2 =", kNoGame},
         {"", kNoGame},
     };

@@ -39,11 +39,11 @@ TEST_F(AgainstXorriso, ItReadsTheImagesThatAreWrittenHere) {
 
 TEST_F(AgainstXorriso, ItsImagesAreReadHere) {
     const Result made =
-        shell("mkdir -p tree/MOVIES && echo 'BOOT2 = cdrom0:\\SCES_777.77;1' > tree/SYSTEM.CNF && "
+        shell("mkdir -p tree/MOVIES && echo 'BOOT2 = cdrom0:\\SCES_990.77;1' > tree/SYSTEM.CNF && "
               "i=0; while [ $i -lt 200 ]; do echo x > tree/FILE$i.BIN; i=$((i+1)); done; "
               "xorriso -as mkisofs -quiet -V 'XO GAME' -J -R -o xo.iso tree 2>&1");
     ASSERT_EQ(made.exitCode, 0) << made.text;
-    EXPECT_NE(text({"cdvd_info2", "xo.iso"}).find("KB \"XO GAME\" \"SCES_777.77\"\r\n"), std::string::npos)
+    EXPECT_NE(text({"cdvd_info2", "xo.iso"}).find("KB \"XO GAME\" \"SCES_990.77\"\r\n"), std::string::npos)
         << text({"cdvd_info2", "xo.iso"});
 }
 

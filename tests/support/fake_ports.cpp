@@ -60,6 +60,11 @@ public:
         return true;
     }
 
+    void endByForce() override {
+        child_->endedByForce = true;
+        child_->script.endsAtMs = qMin(child_->script.endsAtMs, elapsed());
+    }
+
 private:
     int elapsed() const { return static_cast<int>(clock_.now - child_->startedAt); }
 
@@ -143,11 +148,14 @@ QStringList FakeProcessLauncher::commandLines() const {
     return lines;
 }
 
-std::unique_ptr<ChildProcess> FakeProcessLauncher::start(const QString& commandLine) {
+std::unique_ptr<ChildProcess> FakeProcessLauncher::start(const QString& commandLine, QString& reason) {
     constexpr qint64 kFirstProcessId = 4000;
     const std::optional<ChildScript> found = script(commandLine);
-    if (!found)
+    if (!found) {
+        reason = whyNot;
         return nullptr;
+    }
+    journal_ += "run " + commandLine;
     children.push_back(std::make_shared<FakeChild>(
         FakeChild{.commandLine = commandLine,
                   .processId = kFirstProcessId + static_cast<qint64>(children.size()),
@@ -243,6 +251,26 @@ void FakeTray::add(const QString& firstTip) {
     tips.append(firstTip);
 }
 
+void FakeTray::setTip(const QString& newTip) {
+    tips.append(newTip);
+    journal_ += "tip " + newTip.section("\r\n", 0, 0);
+}
+
+void FakeTray::showBalloon(const QString& title, const QString& text) {
+    balloons.push_back({title, text});
+    journal_ += "balloon " + text;
+}
+
+void FakePower::shutDown() {
+    ++shutDowns;
+    journal_ += "shut down";
+}
+
+void FakePower::standBy() {
+    ++standBys;
+    journal_ += "stand by";
+}
+
 Ping::Reply FakePing::sendEcho(quint32 address, const QByteArray& payload, int timeoutMs) {
     echoes.push_back({address, payload, timeoutMs});
     const auto known = replies.find(address);
@@ -250,9 +278,15 @@ Ping::Reply FakePing::sendEcho(quint32 address, const QByteArray& payload, int t
 }
 
 bool FakeHttpListener::listen(quint16 wanted) {
+    journal_ += "listen";
     if (portIsFree)
         port = wanted;
     return portIsFree;
+}
+
+void FakeHttpListener::close() {
+    port.reset();
+    journal_ += "close";
 }
 
 void FakeHttpListener::request(const QByteArray& bytes) const {

@@ -14,6 +14,10 @@
 /// remembered.
 namespace tarnwell::test {
 
+/// What the program did through several ports, in the order of time: "run " and a command line, "balloon "
+/// and its text, "tip " and its first line, "listen", "close", "shut down", "stand by".
+using Journal = QStringList;
+
 class FakeClock : public Clock {
 public:
     qint64 now = 1000;                   ///< milliseconds
@@ -74,6 +78,7 @@ struct FakeChild {
     ChildScript script;
     qint64 startedAt = 0;
     int interrupts = 0;
+    bool endedByForce = false;
     QByteArray written{};
 
     bool runningAt(qint64 now) const { return now - startedAt < script.endsAtMs; }
@@ -81,7 +86,7 @@ struct FakeChild {
 
 class FakeProcessLauncher : public ProcessLauncher {
 public:
-    explicit FakeProcessLauncher(FakeClock& clock) : clock_(clock) {}
+    FakeProcessLauncher(FakeClock& clock, Journal& journal) : clock_(clock), journal_(journal) {}
 
     /// What a program does is decided by its command line; nothing: it cannot be started.
     std::function<std::optional<ChildScript>(const QString& commandLine)> script =
@@ -91,16 +96,18 @@ public:
     void on(const QString& part, const ChildScript& answer) { answers_.push_front({part, answer}); }
     void on(const QString& part, const QByteArray& output) { on(part, ChildScript{.output = {{output}}}); }
 
+    QString whyNot = "Access is denied."; ///< what is said of programs that cannot be started
     std::vector<std::shared_ptr<FakeChild>> children;
     QStringList commandLines() const;
     QString lastCommandLine() const { return children.empty() ? QString() : children.back()->commandLine; }
 
-    std::unique_ptr<ChildProcess> start(const QString& commandLine) override;
+    std::unique_ptr<ChildProcess> start(const QString& commandLine, QString& reason) override;
 
 private:
     ChildScript answerTo(const QString& commandLine) const;
 
     FakeClock& clock_;
+    Journal& journal_;
     std::deque<std::pair<QString, ChildScript>> answers_;
 };
 
@@ -175,6 +182,8 @@ public:
         QString text;
     };
 
+    explicit FakeTray(Journal& journal) : journal_(journal) {}
+
     bool shown = false;
     QStringList tips; ///< all that were set, the one of `add` included
     std::vector<Balloon> balloons;
@@ -183,11 +192,12 @@ public:
 
     bool available() const override { return true; }
     void add(const QString& tip) override;
-    void setTip(const QString& tip) override { tips.append(tip); }
-    void showBalloon(const QString& title, const QString& text) override {
-        balloons.push_back({title, text});
-    }
+    void setTip(const QString& tip) override;
+    void showBalloon(const QString& title, const QString& text) override;
     void remove() override { shown = false; }
+
+private:
+    Journal& journal_;
 };
 
 class FakeSound : public Sound {
@@ -199,11 +209,16 @@ public:
 
 class FakePower : public Power {
 public:
+    explicit FakePower(Journal& journal) : journal_(journal) {}
+
     int shutDowns = 0;
     int standBys = 0;
 
-    void shutDown() override { ++shutDowns; }
-    void standBy() override { ++standBys; }
+    void shutDown() override;
+    void standBy() override;
+
+private:
+    Journal& journal_;
 };
 
 class FakePing : public Ping {
@@ -224,16 +239,21 @@ public:
 
 class FakeHttpListener : public HttpListener {
 public:
+    explicit FakeHttpListener(Journal& journal) : journal_(journal) {}
+
     bool portIsFree = true;
     std::optional<quint16> port; ///< while it listens
     QByteArrayList sent;
 
     bool listen(quint16 wanted) override;
-    void close() override { port.reset(); }
+    void close() override;
     void send(const QByteArray& bytes) override { sent.append(bytes); }
 
     /// A client sends this; heard while somebody listens.
     void request(const QByteArray& bytes) const;
+
+private:
+    Journal& journal_;
 };
 
 class FakeUrlOpener : public UrlOpener {
@@ -290,16 +310,17 @@ public:
 
 /// One of each; hands out the bundle that the program takes.
 struct FakePorts {
+    Journal journal;
     FakeClock clock;
     FakeEventPump pump{clock};
-    FakeProcessLauncher launcher{clock};
+    FakeProcessLauncher launcher{clock, journal};
     FakeProcesses processes{launcher, clock};
     FakeDialogs dialogs{pump};
-    FakeTray tray;
+    FakeTray tray{journal};
     FakeSound sound;
-    FakePower power;
+    FakePower power{journal};
     FakePing ping;
-    FakeHttpListener listener;
+    FakeHttpListener listener{journal};
     FakeUrlOpener browser;
     FakeWakeLock wakeLock;
     FakeTaskbarProgress taskbar;

@@ -33,7 +33,14 @@ protected:
     QStringList commands() const {
         QStringList all;
         for (const QString& line : ports.launcher.commandLines())
-            all += line.mid(ports.folders.folder.size() + QString("/tarnwell.exe ").size());
+            all += withoutTool(line);
+        return all;
+    }
+    /// What the program did through its ports so far, commands without the tool's path.
+    Journal journal() const {
+        Journal all;
+        for (const QString& entry : ports.journal)
+            all += entry.startsWith("run ") ? "run " + withoutTool(entry.mid(4)) : entry;
         return all;
     }
     QString lastMessage() const {
@@ -55,14 +62,19 @@ protected:
     static inline const QByteArray kTwoDisks = "\thdd1:  114473MB, formatted Playstation 2 HDD\r\n"
                                                "\thdd2:  38146MB, formatted Playstation 2 HDD\r\n";
     static inline const QByteArray kTwoGames = "type   size flags          dma startup      name\r\n"
-                                               "DVD  4193280KB                SLUS_200.71 @@@Ratchet\r\n"
-                                               "CD    716800KB +1             SLES_500.03 @@@Tekken Tag\r\n"
+                                               "DVD  4193280KB                SLUS_990.71 @@@Lantern\r\n"
+                                               "CD    716800KB +1             SLES_990.03 @@@Copper Run\r\n"
                                                "total 114473MB, used 26712MB, available 87761MB\r\n";
 
     FakePorts ports;
     Program program{ports.ports()};
     ui::FrmMain& frmMain = program.shared().frmMain;
     ui::LoadedOnTouch<ui::FrmStatus>& frmStatus = program.shared().frmStatus;
+
+private:
+    QString withoutTool(const QString& commandLine) const {
+        return commandLine.mid(ports.folders.folder.size() + QString("/tarnwell.exe ").size());
+    }
 };
 
 } // namespace tarnwell::test

@@ -71,6 +71,16 @@ TEST(Form, UnloadingBringsEveryControlBackToItsStart) {
     EXPECT_EQ(form.loads, 2);
 }
 
+TEST(Form, UnloadingTakesAGrownListBackToWhatWasDeclared) {
+    CountingForm form;
+    form.load();
+    form.cmbSample.addItem("c");
+    form.cmbSample.listIndex = 2;
+    form.unload();
+    EXPECT_EQ(form.cmbSample.items(), QStringList({"a", "b"}));
+    EXPECT_EQ(form.cmbSample.text(), "b");
+}
+
 TEST(Form, AHandlerCanRefuseToUnload) {
     CountingForm form;
     form.show();

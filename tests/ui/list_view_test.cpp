@@ -41,6 +41,15 @@ TEST_F(ListViewTest, SelectingARowKeepsTheOthersOfAMultipleList) {
     EXPECT_TRUE(form.lstMany.row(2).selected);
 }
 
+TEST_F(ListViewTest, TheSelectedRowIsTheMarkedOneWhereverTheFocusIs) {
+    EXPECT_EQ(form.lstOne.selectedRow(), -1);
+    form.lstOne.select(1);
+    form.lstOne.selectedItem = 2;
+    EXPECT_EQ(form.lstOne.selectedRow(), 1);
+    form.lstOne.remove(1);
+    EXPECT_EQ(form.lstOne.selectedRow(), -1);
+}
+
 TEST_F(ListViewTest, TheFocusedRowCanBeDeselected) {
     form.lstMany.select(1);
     form.lstMany.setSelected(1, false);
@@ -54,6 +63,9 @@ TEST_F(ListViewTest, RemovingARowMovesTheFocusAlong) {
     EXPECT_EQ(form.lstOne.count(), 2);
     EXPECT_EQ(form.lstOne.selectedItem, 1);
     EXPECT_EQ(form.lstOne.row(1).text, "c");
+    form.lstOne.append({.text = "d"});
+    form.lstOne.remove(0);
+    EXPECT_EQ(form.lstOne.selectedItem, 0) << "though the row behind it would do, too";
 }
 
 TEST_F(ListViewTest, RemovingTheLastRowLeavesNoFocus) {
@@ -61,6 +73,22 @@ TEST_F(ListViewTest, RemovingTheLastRowLeavesNoFocus) {
     while (form.lstOne.count() > 0)
         form.lstOne.remove(0);
     EXPECT_EQ(form.lstOne.selectedItem, -1);
+}
+
+TEST_F(ListViewTest, RemovingARowBehindTheFocusLeavesTheFocusAndTheRowsBefore) {
+    form.lstOne.select(0);
+    form.lstOne.remove(1);
+    EXPECT_EQ(form.lstOne.count(), 2);
+    EXPECT_EQ(form.lstOne.row(0).text, "a");
+    EXPECT_EQ(form.lstOne.row(1).text, "c");
+    EXPECT_EQ(form.lstOne.selectedItem, 0);
+}
+
+TEST_F(ListViewTest, RemovingTheFocusedRowGivesItsPlaceToTheNext) {
+    form.lstOne.select(1);
+    form.lstOne.remove(1);
+    EXPECT_EQ(form.lstOne.selectedItem, 1);
+    EXPECT_EQ(form.lstOne.row(1).text, "c");
 }
 
 TEST_F(ListViewTest, ChangesAreTold) {

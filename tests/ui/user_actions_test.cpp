@@ -14,6 +14,7 @@ struct UserForm : Form {
     Label lblLink{*this, "lblLink", {.link = true}};
     CheckBox chkSample{*this, "chkSample"};
     TextBox txtSample{*this, "txtSample"};
+    TextBox txtLines{*this, "txtLines", {.multiLine = true}};
     TextBox txtFixed{*this, "txtFixed", {.text = "fixed", .readOnly = true}};
     ComboBox cmbSample{*this, "cmbSample", {.items = {"a", "b"}}};
     ListView lstSample{*this, "lstSample", {.editableLabels = true}};
@@ -63,6 +64,29 @@ TEST_F(UserActions, TypingIntoAReadOnlyBoxDoesNothing) {
     EXPECT_FALSE(type(form.txtFixed, "text"));
     EXPECT_EQ(form.txtSample.text.get(), "text");
     EXPECT_EQ(form.txtFixed.text.get(), "fixed");
+}
+
+TEST_F(UserActions, LineBreaksStayOutOfABoxOfOneLine) {
+    type(form.txtSample, "10.0.0.1\r\n");
+    EXPECT_EQ(form.txtSample.text.get(), "10.0.0.1");
+    type(form.txtSample, QString("\nCopper\r\nRun\u2028two\u2029three\v"));
+    EXPECT_EQ(form.txtSample.text.get(), "Copper Run two three");
+    type(form.txtSample, " Copper\tRun ");
+    EXPECT_EQ(form.txtSample.text.get(), " Copper\tRun ");
+}
+
+TEST_F(UserActions, LineBreaksAreAtHomeInABoxOfSeveralLines) {
+    type(form.txtLines, "one\ntwo\n");
+    EXPECT_EQ(form.txtLines.text.get(), "one\ntwo\n");
+}
+
+TEST_F(UserActions, LineBreaksStayOutOfALabel) {
+    form.lstSample.append({.text = "old"});
+    QString asked;
+    form.lstSample.AfterLabelEdit = [&](bool&, int, const QString& text) { asked = text; };
+    editLabel(form.lstSample, 0, "Copper\nRun\n");
+    EXPECT_EQ(asked, "Copper Run");
+    EXPECT_EQ(form.lstSample.row(0).text, "Copper Run");
 }
 
 TEST_F(UserActions, AHandlerCanSwallowAKey) {

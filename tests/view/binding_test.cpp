@@ -1,10 +1,13 @@
 #include "view/view_fixture.h"
 
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
+#include <QDropEvent>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -20,6 +23,21 @@ TEST_F(BoundControls, ButtonClicksReachTheProgramOnce) {
     form.cmdAbout.Click = [&] { ++clicks; };
     QTest::mouseClick(&widget<QPushButton>(form.cmdAbout), Qt::LeftButton);
     EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(BoundControls, ADoubleClickOnAButtonCountsOnce) {
+    int clicks = 0;
+    form.cmdAbout.Click = [&] { ++clicks; };
+    auto& button = widget<QPushButton>(form.cmdAbout);
+    // What a widget gets of a double click: a click, a second press, the news that it is a double one, a
+    // release.
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QTest::mousePress(&button, Qt::LeftButton);
+    QTest::mouseDClick(&button, Qt::LeftButton);
+    QTest::mouseRelease(&button, Qt::LeftButton);
+    EXPECT_EQ(clicks, 1);
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_EQ(clicks, 2) << "the next click is one";
 }
 
 TEST_F(BoundControls, EnterPressesTheFocusedButton) {
@@ -122,6 +140,34 @@ TEST_F(BoundControls, TypingReachesTheProgramAndKeepsTheCaret) {
     EXPECT_EQ(form.txtGameName.text, "Draxgons");
     EXPECT_EQ(edit.cursorPosition(), 4);
     EXPECT_EQ(changes, 1);
+}
+
+TEST_F(BoundControls, PastedLineBreaksBecomeBlanksAndTheCaretStaysBehindWhatWasPasted) {
+    form.txtGameName.text = "Dragons";
+    auto& edit = widget<QLineEdit>(form.txtGameName);
+    edit.setCursorPosition(3);
+    QApplication::clipboard()->setText("Copper\r\nRun\n");
+    QTest::keyClick(&edit, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(form.txtGameName.text, "DraCopper Run gons");
+    EXPECT_EQ(edit.text(), "DraCopper Run gons");
+    EXPECT_EQ(edit.cursorPosition(), 14);
+    edit.selectAll();
+    QApplication::clipboard()->setText("10.0.0.1\n");
+    QTest::keyClick(&edit, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(form.txtGameName.text, "10.0.0.1");
+    EXPECT_EQ(edit.text(), "10.0.0.1");
+}
+
+TEST_F(BoundControls, DroppedLineBreaksStayOutToo) {
+    auto& edit = widget<QLineEdit>(form.txtGameName);
+    QMimeData data;
+    data.setText("Copper\nRun\n");
+    QDragEnterEvent enter(edit.rect().center(), Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&edit, &enter);
+    QDropEvent drop(edit.rect().center(), Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&edit, &drop);
+    EXPECT_EQ(form.txtGameName.text, "Copper Run");
+    EXPECT_EQ(edit.text(), "Copper Run");
 }
 
 TEST_F(BoundControls, TextFromTheProgramIsNoTyping) {

@@ -47,7 +47,7 @@ protected:
 TEST_F(GameList, ShowsTheRowsAsTheyAre) {
     EXPECT_EQ(view().model()->rowCount(), 12);
     EXPECT_EQ(shown(2, 0), "Moonbase <Seven>");
-    EXPECT_EQ(shown(2, 1), "SLUS_202.02");
+    EXPECT_EQ(shown(2, 1), "SLUS_990.02");
     EXPECT_EQ(view().model()->headerData(0, Qt::Horizontal).toString(), "Game Title");
 }
 
@@ -79,7 +79,7 @@ TEST_F(GameList, TenThousandRowsComeQuickly) {
     clock.start();
     form.lstHD.clear();
     for (int i = 0; i < kRows; ++i)
-        form.lstHD.append({QString::number(i), {"SLUS_200.00", "4.37GB", "DVD", ""}, {}, false});
+        form.lstHD.append({QString::number(i), {"SLUS_990.00", "4.37GB", "DVD", ""}, {}, false});
     serveEvents();
     EXPECT_EQ(view().model()->rowCount(), kRows);
     EXPECT_EQ(insertions, 1);
@@ -103,6 +103,40 @@ TEST_F(GameList, SelectionOfTheUserReachesTheProgram) {
     EXPECT_EQ(selectedInModel(), (std::vector{3, 5}));
     EXPECT_EQ(selectedInView(), (std::vector{3, 5}));
     EXPECT_EQ(form.lstHD.selectedItem, 5);
+}
+
+TEST_F(GameList, AClickOnTheTitleOfOneOfSeveralGamesSelectsThatOneAndEditsNothing) {
+    clickRow(3);
+    clickRow(5, Qt::ControlModifier);
+    clickRow(7, Qt::ControlModifier);
+    clickRow(5);
+    EXPECT_EQ(selectedInModel(), std::vector{5});
+    EXPECT_EQ(form.lstHD.selectedItem, 5);
+    QTest::qWait(QApplication::doubleClickInterval() + 100);
+    EXPECT_EQ(selectedInView(), std::vector{5});
+    EXPECT_FALSE(view().viewport()->findChild<QLineEdit*>());
+}
+
+TEST_F(GameList, AClickOnTheTitleOfTheGameThatIsSelectedAloneEditsIt) {
+    clickRow(5);
+    QTest::qWait(QApplication::doubleClickInterval() + 100);
+    clickRow(5);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return view().viewport()->findChild<QLineEdit*>(); }));
+    EXPECT_EQ(selectedInModel(), std::vector{5});
+}
+
+TEST_F(GameList, ALoneGameIsSelectedByAClickAfterEachRefresh) {
+    for (int refresh = 0; refresh < 3; ++refresh) {
+        form.lstHD.clear();
+        form.lstHD.append({"Lantern", {"SLUS_990.71", "4.00GB", "DVD", ""}, {}, false});
+        serveEvents();
+        EXPECT_EQ(form.lstHD.selectedItem, -1);
+        clickRow(0);
+        serveEvents();
+        EXPECT_EQ(selectedInModel(), std::vector{0});
+        EXPECT_EQ(form.lstHD.selectedItem, 0);
+        EXPECT_EQ(selectedInView(), std::vector{0});
+    }
 }
 
 TEST_F(GameList, AcceptedLabelEditRenamesTheRow) {
@@ -172,6 +206,69 @@ TEST_F(GameList, ColumnsHaveTheirScaledWidths) {
     EXPECT_EQ(header.sectionSize(1), scale.pixels(1070));
     EXPECT_EQ(header.sectionSize(2), scale.pixels(720));
     EXPECT_LE(header.length(), view().viewport()->width());
+}
+
+/// A job list that has just been opened: the page that hides what had the focus hands it to the list.
+class OpenedJobList : public MainWindow {
+protected:
+    OpenedJobList() {
+        window.activateWindow();
+        widget<QWidget>(form.optJobQueue).setFocus();
+        form.lstJob.append({.text = "Pending", .subItems = {"Install"}});
+        serveEvents();
+        form.optJobQueue.Click = [this] { form.fmJob.visible = true; };
+        form.cmdRemove.enabled = true;
+        QTest::mouseClick(&widget<QWidget>(form.optJobQueue), Qt::LeftButton, {}, {8, 8});
+        serveEvents();
+    }
+
+    QTreeView& view() { return widget<QTreeView>(form.lstJob); }
+    void clickRow(int row, Qt::KeyboardModifiers keys = {}) {
+        QTest::mouseClick(view().viewport(), Qt::LeftButton, keys,
+                          view().visualRect(view().model()->index(row, 0)).center());
+    }
+};
+
+TEST_F(OpenedJobList, AClickOnItsOnlyRowChoosesIt) {
+    EXPECT_EQ(form.lstJob.selectedRow(), -1);
+    clickRow(0);
+    serveEvents();
+    EXPECT_TRUE(form.lstJob.row(0).selected);
+    EXPECT_EQ(form.lstJob.selectedItem, 0);
+    EXPECT_EQ(view().selectionModel()->selectedRows().size(), 1);
+}
+
+TEST_F(OpenedJobList, TheKeyboardChoosesItsOnlyRow) {
+    view().setFocus();
+    QTest::keyClick(&view(), Qt::Key_Space);
+    serveEvents();
+    EXPECT_TRUE(form.lstJob.row(0).selected);
+    EXPECT_EQ(form.lstJob.selectedItem, 0);
+}
+
+TEST_F(OpenedJobList, AfterARemovalNoRowLooksChosenUntilItIsClicked) {
+    form.lstJob.append({.text = "Pending", .subItems = {"Delete"}});
+    serveEvents();
+    clickRow(0);
+    form.lstJob.remove(0);
+    EXPECT_EQ(form.lstJob.selectedRow(), -1);
+    serveEvents();
+    EXPECT_TRUE(view().selectionModel()->selectedRows().isEmpty());
+    clickRow(0);
+    serveEvents();
+    EXPECT_EQ(form.lstJob.selectedRow(), 0);
+    EXPECT_EQ(view().selectionModel()->selectedRows().size(), 1);
+}
+
+TEST_F(OpenedJobList, AClickBeforeTheViewHasCaughtUpIsAboutTheRowsAsTheyAre) {
+    form.lstJob.append({.text = "Pending", .subItems = {"Delete"}});
+    serveEvents();
+    clickRow(0);
+    form.lstJob.remove(0);
+    clickRow(0);
+    serveEvents();
+    EXPECT_EQ(form.lstJob.selectedRow(), 0);
+    EXPECT_EQ(view().selectionModel()->selectedRows().size(), 1);
 }
 
 TEST_F(GameList, JobListAllowsOneSelectedRow) {

@@ -14,8 +14,7 @@ protected:
     }
 
     QMenu& open() {
-        form.mnuCompat.popUp(form.fmInstall.left + form.cmdCompat.left,
-                             form.cmdCompat.top + form.cmdCompat.height);
+        form.mnuCompat.popUpBelow(form.cmdCompat);
         serveEvents();
         return *window.findChild<QMenu*>("mnuCompat");
     }
@@ -84,15 +83,40 @@ TEST_F(FlagsMenu, OpensBelowItsButton) {
     const auto& button = widget<QPushButton>(form.cmdCompat);
     const QRect place(button.mapToGlobal(QPoint()), button.size());
     const QMenu& menu = open();
-    constexpr int kNear = 20;
-    EXPECT_NEAR(menu.x(), place.left(), kNear);
-    EXPECT_NEAR(menu.y(), place.bottom(), kNear);
+    EXPECT_EQ(menu.pos(), place.bottomLeft() + QPoint(0, 1));
+}
+
+TEST_F(FlagsMenu, EveryMenuOfAButtonOpensBelowItWhereverTheWindowWasDragged) {
+    samples::games(form, 3);
+    for (const QPoint& place : {QPoint(-400, 0), QPoint(-300, 20)}) {
+        window.move(place);
+        serveEvents();
+        for (const auto& [model, button] :
+             {std::pair(&form.mnuDelete, &form.cmdDelete), std::pair(&form.mnuBackup, &form.cmdBackupHDD)}) {
+            model->popUpBelow(*button);
+            auto& menu = *window.findChild<QMenu*>(model->name);
+            const auto& face = widget<QPushButton>(*button);
+            EXPECT_EQ(menu.pos(), face.mapToGlobal(face.rect().bottomLeft() + QPoint(0, 1)))
+                << model->name.toStdString();
+            menu.hide();
+        }
+    }
+}
+
+TEST_F(FlagsMenu, WhereWritingRunsFromRightToLeftItsRightEdgeIsThatOfTheButton) {
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    const auto& button = widget<QPushButton>(form.cmdCompat);
+    window.move(200, 0);
+    serveEvents();
+    const QMenu& menu = open();
+    EXPECT_EQ(menu.geometry().right(), button.mapToGlobal(button.rect().bottomRight()).x());
+    QApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 TEST_F(FlagsMenu, OpeningItAgainLeavesItWhereItIs) {
     QMenu& menu = open();
     const QPoint place = menu.pos();
-    form.mnuCompat.popUp(0, 0);
+    form.mnuCompat.popUpBelow(form.cmdAttach);
     EXPECT_EQ(menu.pos(), place);
 }
 

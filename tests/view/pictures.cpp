@@ -47,6 +47,12 @@ void statusWindow(const QDir& folder, const QString& look) {
     const view::StatusWindowView view(form);
     view::samples::jobRunning(form);
     save(*view.window(), folder, look + "-status");
+
+    ui::FrmStatus closed;
+    const view::StatusWindowView late(closed);
+    view::samples::ownLook(closed);
+    view::samples::jobRunning(closed);
+    save(*late.window(), folder, look + "-status-own-look");
 }
 
 void settingsWindow(const QDir& folder, const QString& look) {

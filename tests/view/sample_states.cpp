@@ -45,7 +45,7 @@ void games(ui::FrmMain& form, int count) {
                                  "Harbour Master 2",      "Night of the Long Trains: The Director's Edition"};
     for (int i = 0; i < count; ++i) {
         append(form.lstHD, kTitles[static_cast<std::size_t>(i) % kTitles.size()],
-               {QStringLiteral("SLUS_%1.%2").arg(200 + i).arg(i % 100, 2, 10, QChar('0')), "4.37GB",
+               {QStringLiteral("SLUS_99%1.%2").arg(i / 100 % 10).arg(i % 100, 2, 10, QChar('0')), "4.37GB",
                 i % 3 ? "DVD" : "CD", i % 4 ? "" : "+1+3"});
     }
     form.fmInstall.visible = false;
@@ -61,7 +61,7 @@ void games(ui::FrmMain& form, int count) {
 void discRead(ui::FrmMain& form) {
     form.txtISO.text = "C:\\Images\\The Lighthouse Keeper.iso";
     form.txtGameName.text = "The Lighthouse Keeper";
-    form.txtGameStartup.text = "SLUS_203.12";
+    form.txtGameStartup.text = "SLUS_990.12";
     form.txtGameSize.text = "7.91GB";
     form.lblDVD9.visible = true;
     for (ui::Button* button : {&form.cmdCompat, &form.cmdInstall, &form.cmdAddGame, &form.cmdMakeISO})
@@ -70,7 +70,7 @@ void discRead(ui::FrmMain& form) {
 
 void jobs(ui::FrmMain& form) {
     append(form.lstJob, "Complete",
-           {"Install", "C:\\Images\\keeper.iso", "192.168.0.10", "The Lighthouse Keeper", "SLUS_203.12",
+           {"Install", "C:\\Images\\keeper.iso", "192.168.0.10", "The Lighthouse Keeper", "SLUS_990.12",
             "DVD-ROM", "+1+3"});
     append(form.lstJob, "Active", {"Backup to PC", "hdd1:", "D:\\dragons.iso", "Paper Dragons", "", "", ""});
     append(form.lstJob, "Pending", {"Delete", "hdd1:", "", "Harbour Master 2", "", "", ""});
@@ -86,8 +86,8 @@ void activity(ui::FrmMain& form) {
     form.height = ui::FrmMain::kTallHeight;
     form.txtCommand.text = "toc 192.168.0.10";
     form.txtOutput.text = "type     size flags           startup     name\r\n"
-                          "DVD 4582400KB                 SLUS_203.12 The Lighthouse Keeper\r\n"
-                          "CD   716800KB +1+3            SLUS_201.00 Sixty Second Rally & Friends\r\n"
+                          "DVD 4582400KB                 SLUS_990.12 The Lighthouse Keeper\r\n"
+                          "CD   716800KB +1+3            SLUS_990.10 Sixty Second Rally & Friends\r\n"
                           "total 476928MB, used 191744MB, available 285184MB\r\n";
 }
 
@@ -136,13 +136,13 @@ void thanks(ui::FrmAbout& form) {
 
 void ownLook(ui::Form& form) {
     constexpr std::int32_t kIvory = 0xDCF5FA, kPine = 0x2E4A1B;
-    form.backColor = kIvory;
+    form.backColor = kPine;
     for (ui::Control* control : form.controls()) {
         if (control->hasFont() && control->name != "txtOutput")
             control->font = ui::Font{"DejaVu Serif", 11, false, true};
         if (control->hasColors() && control->name != "picDiskSpace") {
-            control->foreColor = kPine;
-            control->backColor = kIvory;
+            control->foreColor = kIvory;
+            control->backColor = kPine;
         }
     }
 }

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QLabel>
+#include <QMenu>
 #include <QTabBar>
 
 namespace tarnwell::view {
@@ -161,6 +162,25 @@ TEST_F(SettingsWindow, TabsStayReadableOnAnyBackground) {
         const QPalette& colors = widget(form.TabStrip).palette();
         EXPECT_GT(std::abs(qGray(colors.windowText().color().rgb()) - qGray(colors.window().color().rgb())),
                   128);
+    }
+}
+
+TEST_F(SettingsWindow, TheSoundsMenuOfTheMainWindowOpensBelowItsButtonHere) {
+    ui::FrmMain frmMain;
+    const MainWindowView mainWindow(frmMain);
+    frmMain.show();
+    clickTab(ui::FrmSettings::kGuiTab);
+    const auto& button = widget(form.cmdSounds);
+    for (const QPoint& place : {QPoint(30, 10), QPoint(90, 40)}) {
+        view.window()->move(place);
+        serveEvents();
+        frmMain.mnuSounds.popUpBelow(form.cmdSounds);
+        auto* menu = view.window()->findChild<QMenu*>("mnuSounds");
+        ASSERT_TRUE(menu);
+        EXPECT_TRUE(menu->isVisible());
+        EXPECT_EQ(menu->pos(), button.mapToGlobal(button.rect().bottomLeft() + QPoint(0, 1)));
+        frmMain.mnuSounds.close();
+        EXPECT_FALSE(menu->isVisible());
     }
 }
 

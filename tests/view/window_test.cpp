@@ -1,4 +1,5 @@
 #include "ui/qt/application_icon.h"
+#include "ui/qt/colors.h"
 #include "view/view_fixture.h"
 
 #include <QGroupBox>
@@ -28,6 +29,23 @@ TEST_F(Window, ClosingAsksTheForm) {
     window.close();
     EXPECT_FALSE(window.isVisible());
     EXPECT_FALSE(form.loaded());
+}
+
+TEST_F(Window, OwnColoursLeaveNoPatchesInAFrame) {
+    QApplication::setStyle("Fusion");
+    samples::ownLook(form);
+    serveEvents();
+    const QColor chosen = toColor(*form.backColor.get());
+    const QImage picture = window.grab().toImage();
+    const QWidget& frame = widget<QGroupBox>(form.fmInstall);
+    const auto colorAt = [&](const QWidget& face, const QPoint& place) {
+        return picture.pixelColor(face.mapTo(&window, place));
+    };
+    constexpr int kInside = 4;
+    EXPECT_EQ(colorAt(frame, {kInside, frame.height() - kInside}), chosen);
+    EXPECT_EQ(colorAt(frame, {kInside, 1}), chosen) << "beside the title";
+    const QWidget& label = widget<QWidget>(form.lblGameName);
+    EXPECT_EQ(colorAt(label, {label.width() - 1, 0}), chosen);
 }
 
 TEST_F(Window, TallHeightUncoversTheActivity) {
@@ -142,13 +160,6 @@ TEST_F(Window, ShowsTheHourglass) {
     EXPECT_EQ(window.cursor().shape(), Qt::ArrowCursor);
 }
 
-TEST_F(Window, ControlsTellWhereTheyStand) {
-    EXPECT_GT(form.cmdCompat.left, 0);
-    EXPECT_GT(form.cmdCompat.top, 0);
-    EXPECT_GT(form.cmdCompat.height, 0);
-    EXPECT_EQ(form.cmdAttach.width, 1215) << "a width that the program gives is not overwritten";
-}
-
 TEST_F(Window, AttachButtonHasTheWidthThatTheProgramGives) {
     samples::localDisk(form);
     serveEvents();
@@ -164,6 +175,36 @@ TEST(StatusWindow, IsMadeWhenItFirstOpens) {
     ASSERT_TRUE(view.window());
     EXPECT_TRUE(view.window()->isVisible());
     EXPECT_EQ(view.window()->windowTitle(), " Status");
+}
+
+TEST(StatusWindow, ABlankThatWasMeantForAnotherWindowTicksNothing) {
+    ui::FrmStatus form;
+    const StatusWindowView view(form);
+    form.cmdMinimize.Click = [&form] { form.hide(); };
+    for (int opening = 0; opening < 3; ++opening) {
+        form.show();
+        QApplication::processEvents();
+        ASSERT_EQ(view.window()->focusWidget(), view.window()->findChild<QWidget*>("cmdMinimize"));
+        QTest::keyClick(view.window()->focusWidget(), Qt::Key_Space);
+        EXPECT_FALSE(form.shown());
+        form.show();
+        view.window()->findChild<QWidget*>("chkShutdown")->setFocus();
+        form.hide();
+    }
+    EXPECT_EQ(form.chkShutdown.value, 0);
+}
+
+TEST(StatusWindow, ThatOpensLateHasTheColoursThatWereChosenBefore) {
+    ui::FrmStatus form;
+    const StatusWindowView view(form);
+    form.load();
+    samples::ownLook(form);
+    form.show();
+    QApplication::processEvents();
+    const QImage picture = view.window()->grab().toImage();
+    const QColor chosen = toColor(*form.backColor.get());
+    for (const QPoint& corner : {QPoint(1, 1), QPoint(picture.width() - 2, picture.height() - 2)})
+        EXPECT_EQ(picture.pixelColor(corner), chosen);
 }
 
 TEST(StatusWindow, RefusedCloseMinimisesIt) {

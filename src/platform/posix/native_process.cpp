@@ -1,5 +1,5 @@
 #include "platform/native.h"
-#include "platform/posix/command_line.h"
+#include "platform/posix/arguments.h"
 
 #include <QFileInfo>
 #include <QProcess>
@@ -50,15 +50,15 @@ private:
 
 } // namespace
 
-std::unique_ptr<OutputPipe> prepareProcess(QProcess& process, const QString& commandLine) {
-    const std::optional<SplitCommand> command = splitCommandLine(commandLine);
+std::unique_ptr<OutputPipe> prepareProcess(QProcess& process, const QString& program,
+                                           const QString& arguments) {
     auto output = std::make_unique<PosixOutputPipe>();
-    if (!command || !output->isOpen()) {
+    if (!output->isOpen()) {
         return nullptr;
     }
     // An absolute path, because a bare name would be looked up on PATH.
-    process.setProgram(QFileInfo(command->program).absoluteFilePath());
-    process.setArguments(command->arguments);
+    process.setProgram(QFileInfo(program).absoluteFilePath());
+    process.setArguments(splitArguments(arguments));
     process.setProcessChannelMode(QProcess::ForwardedChannels); // QProcess makes no pipes of its own
     process.setChildProcessModifier([end = output->endOfProcess()] {
         ::dup2(end, STDOUT_FILENO);
@@ -68,6 +68,13 @@ std::unique_ptr<OutputPipe> prepareProcess(QProcess& process, const QString& com
         ::signal(SIGINT, SIG_DFL);  // a shell that started us in the background has it ignored
     });
     return output;
+}
+
+QString hintAtStart(const QString& program) {
+    if (QFileInfo(program).isExecutable()) {
+        return {};
+    }
+    return "It is not marked as a program. In a terminal this marks it: chmod +x \"" + program + '"';
 }
 
 bool interruptProcess(qint64 processId) {

@@ -1,4 +1,4 @@
-#include "platform/desktop_ports.h"
+#include "platform/qt/desktop_ports.h"
 
 #include "platform/native.h"
 

@@ -2,6 +2,7 @@
 
 #include "platform/qt/file_filter.h"
 #include "platform/qt/message_text.h"
+#include "ui/one_line.h"
 
 #include <QApplication>
 #include <QColorDialog>
@@ -110,7 +111,7 @@ std::optional<QString> QtDialogs::input(const QString& prompt, const QString& ti
     box.resize(box.fontMetrics().averageCharWidth() * kCharacters, box.sizeHint().height());
     if (waitFor(box) != QDialog::Accepted)
         return std::nullopt;
-    return box.textValue();
+    return ui::oneLine(box.textValue());
 }
 
 std::optional<QString> QtDialogs::openFile(const OpenFileRequest& request) {

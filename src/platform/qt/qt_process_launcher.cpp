@@ -1,6 +1,7 @@
 #include "platform/qt/qt_process_launcher.h"
 
 #include "platform/native.h"
+#include "platform/qt/command_line.h"
 #include "platform/qt/process_keeper.h"
 
 #include <QProcess>
@@ -38,22 +39,46 @@ public:
 
     bool interrupt() override { return !running() || native::interruptProcess(processId_); }
 
+    void endByForce() override { process_->kill(); }
+
 private:
     std::unique_ptr<QProcess> process_;
     const std::unique_ptr<native::OutputPipe> output_;
     const qint64 processId_ = process_->processId(); // QProcess forgets it when the process has gone
 };
 
+QString sentence(const QString& program, const QString& reason) {
+    return program + " could not be started: " + reason + (reason.endsWith(u'.') ? "" : ".");
+}
+
+QString wordsOfSystem(const QProcess& process) {
+    QString words = process.errorString();
+    const QString separator = QStringLiteral(": "); // what stands in front is the step that failed
+    const qsizetype step = words.indexOf(separator);
+    if (step >= 0)
+        words = words.mid(step + separator.size());
+    return words.replace("%1", process.program());
+}
+
 } // namespace
 
-std::unique_ptr<ChildProcess> QtProcessLauncher::start(const QString& commandLine) {
+std::unique_ptr<ChildProcess> QtProcessLauncher::start(const QString& commandLine, QString& whyNot) {
+    const auto command = splitCommandLine(commandLine);
+    if (!command) {
+        whyNot = "There is no such program: " + commandLine;
+        return nullptr;
+    }
     auto process = std::make_unique<QProcess>();
-    auto output = native::prepareProcess(*process, commandLine);
+    auto output = native::prepareProcess(*process, command->program, command->arguments);
     if (!output) {
+        whyNot = sentence(command->program, QStringLiteral("the system has no pipe left for what it prints"));
         return nullptr;
     }
     process->start();
     if (!process->waitForStarted(kStartLimitMs)) {
+        whyNot = sentence(command->program, wordsOfSystem(*process));
+        if (const QString hint = native::hintAtStart(command->program); !hint.isEmpty())
+            whyNot += "\r\n" + hint;
         return nullptr;
     }
     output->processHasStarted();

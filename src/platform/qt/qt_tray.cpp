@@ -1,5 +1,7 @@
 #include "platform/qt/qt_tray.h"
 
+#include "platform/native.h"
+
 #include <QGuiApplication>
 
 namespace tarnwell {
@@ -26,7 +28,8 @@ void QtTray::setTip(const QString& tip) {
 }
 
 void QtTray::showBalloon(const QString& title, const QString& text) {
-    if (available()) {
+    // For such a panel Qt makes the balloon the icon's tip as well, in the place of the progress.
+    if (available() && !(drawnByPanel() && native::showNotification(title, text))) {
         icon_.showMessage(title, text, QSystemTrayIcon::Information);
     }
 }

@@ -53,8 +53,9 @@ private:
 /// Turns the call that QProcess is about to make into the one that is wanted, and keeps what it points to.
 class Start {
 public:
-    Start(const QString& commandLine, HANDLE output)
-        : commandLine_(commandLine.toStdWString()), output_(output) {}
+    Start(const QString& program, const QString& arguments, HANDLE output)
+        : program_(program.toStdWString()), commandLine_((quoted(program) + arguments).toStdWString()),
+          output_(output) {}
     ~Start() {
         if (!attributes_.empty())
             DeleteProcThreadAttributeList(attributes());
@@ -62,8 +63,9 @@ public:
     Q_DISABLE_COPY_MOVE(Start)
 
     void change(QProcess::CreateProcessArguments& call) {
-        // Without a separate name the system itself finds out where the program's path ends.
-        call.applicationName = nullptr;
+        // Named apart: where a path with blanks ends the system would find out by trying the short ones
+        // first.
+        call.applicationName = program_.c_str();
         call.arguments = commandLine_.data();
         call.flags |= CREATE_NO_WINDOW; // but a console of its own, to which the interrupt can go
         startup_.StartupInfo = *call.startupInfo;
@@ -80,6 +82,12 @@ public:
     }
 
 private:
+    /// As the system does it where it finds the program by itself: a program takes the first word, or what
+    /// the first quotes hold, for its own name.
+    static QString quoted(const QString& program) {
+        return program.contains(u' ') ? '"' + program + '"' : program;
+    }
+
     /// A program that outlives this one must not keep our sockets and files open.
     bool handDownOnlyStreams() {
         streams_ = {startup_.StartupInfo.hStdInput, output_}; // the system takes none twice
@@ -99,6 +107,7 @@ private:
         return reinterpret_cast<LPPROC_THREAD_ATTRIBUTE_LIST>(attributes_.data());
     }
 
+    const std::wstring program_;
     std::wstring commandLine_;
     const HANDLE output_;
     STARTUPINFOEXW startup_{};
@@ -108,17 +117,22 @@ private:
 
 } // namespace
 
-std::unique_ptr<native::OutputPipe> native::prepareProcess(QProcess& process, const QString& commandLine) {
+std::unique_ptr<native::OutputPipe> native::prepareProcess(QProcess& process, const QString& program,
+                                                           const QString& arguments) {
     auto output = std::make_unique<WindowsOutputPipe>();
-    if (commandLine.trimmed().isEmpty() || !output->isOpen())
+    if (!output->isOpen())
         return nullptr;
-    process.setProgram(commandLine);                            // QProcess starts nothing that has no name
+    process.setProgram(program);
     process.setProcessChannelMode(QProcess::ForwardedChannels); // QProcess makes no pipes of its own
     process.setCreateProcessArgumentsModifier(
-        [start = std::make_shared<Start>(commandLine, output->endOfProcess())](auto* call) {
+        [start = std::make_shared<Start>(program, arguments, output->endOfProcess())](auto* call) {
             start->change(*call);
         });
     return output;
+}
+
+QString native::hintAtStart(const QString&) {
+    return {};
 }
 
 } // namespace tarnwell

@@ -5,6 +5,7 @@
 
 #include <QCheckBox>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -32,13 +33,29 @@ public:
         const int textWidth = fontMetrics().size(Qt::TextShowMnemonic, text()).width();
         return {textWidth + 2 * kRoomBesideText, QPushButton::sizeHint().height()};
     }
+
+protected:
+    /// A double click counts once: its second half would start the same work again while the first is at it.
+    /// The second press has come by now, and is taken back before it becomes a click.
+    void mouseDoubleClickEvent(QMouseEvent*) override { setDown(false); }
 };
 
-/// The widget shows a click at once by itself. The model decides what it means, so the widget goes back to
-/// the model's state first; the handler may run for hours.
+/// The model decides what a click means, and may take hours for it; the widget shows nothing by itself.
+template <class Button>
+class ShownByModel final : public Button {
+public:
+    using Button::Button;
+
+protected:
+    void nextCheckState() override {}
+};
+
+/// Clicks, and what assistive technology does in their place: it ticks a box or chooses an option without
+/// one.
 template <class Show, class Act>
 void onClick(Binding& binding, QAbstractButton& widget, Show show, Act act) {
-    QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&binding, show, act] {
+    QObject::connect(&widget, &QAbstractButton::clicked, &widget, act);
+    QObject::connect(&widget, &QAbstractButton::toggled, &widget, [&binding, show, act] {
         if (binding.showing())
             return;
         {
@@ -105,8 +122,7 @@ void chooseByArrows(ui::OptionButton& option, QRadioButton& radio) {
 QWidget* bindButton(Binding& binding, ui::Button& button, QWidget* parent) {
     auto* widget = new PushButton(parent);
     followCaption(binding, button, *widget);
-    onClick(
-        binding, *widget, [] {}, [&button] { ui::click(button); });
+    QObject::connect(widget, &QPushButton::clicked, widget, [&button] { ui::click(button); });
     // Enter presses the button that has the focus, without the heavy border that Qt's own default buttons
     // wear.
     new EventWatcher(*widget, [widget](QEvent& event) {
@@ -132,7 +148,7 @@ QWidget* bindButton(Binding& binding, ui::Button& button, QWidget* parent) {
 }
 
 QWidget* bindOptionButton(Binding& binding, ui::OptionButton& option, QWidget* parent) {
-    auto* widget = new QRadioButton(parent);
+    auto* widget = new ShownByModel<QRadioButton>(parent);
     widget->setAutoExclusive(false);
     followCaption(binding, option, *widget);
     const auto show = [&option, widget] { widget->setChecked(option.value); };
@@ -143,7 +159,7 @@ QWidget* bindOptionButton(Binding& binding, ui::OptionButton& option, QWidget* p
 }
 
 QWidget* bindCheckBox(Binding& binding, ui::CheckBox& box, QWidget* parent) {
-    auto* widget = new QCheckBox(parent);
+    auto* widget = new ShownByModel<QCheckBox>(parent);
     followCaption(binding, box, *widget);
     const auto show = [&box, widget] {
         constexpr int kGreyed = 2;

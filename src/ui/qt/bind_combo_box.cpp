@@ -21,11 +21,23 @@ QWidget* bindComboBox(Binding& binding, ui::ComboBox& list, QWidget* parent) {
         showChoice();
     });
     binding.listen(list.listIndex.changed, *combo, showChoice);
-    QObject::connect(combo, &QComboBox::activated, combo, [&binding, &list, showChoice](int index) {
+    const auto takeChoice = [&binding, &list, showChoice](int index) {
         if (binding.showing() || ui::choose(list, index))
             return;
         const Binding::Showing guard(binding);
         showChoice();
+    };
+    QObject::connect(combo, &QComboBox::activated, combo, takeChoice);
+    // Assistive technology chooses without activating. A choice by hand has reached the model by the time
+    // that the second look is taken.
+    QObject::connect(combo, &QComboBox::currentIndexChanged, combo, [&binding, &list, combo, takeChoice] {
+        if (binding.showing())
+            return;
+        const auto lookAgain = [&list, combo, takeChoice] {
+            if (combo->currentIndex() != list.listIndex)
+                takeChoice(combo->currentIndex());
+        };
+        QMetaObject::invokeMethod(combo, lookAgain, Qt::QueuedConnection);
     });
     return combo;
 }

@@ -8,7 +8,7 @@ class QAbstractButton;
 namespace tarnwell::view {
 
 // One function a kind: makes the widget inside `parent`, lets it follow its control, and turns what the user
-// does to it into the actions of ui/user_actions.h. What every kind has in common is bound by bindAppearance.
+// does to it into the actions of ui/user_actions.h. What every kind has in common is bound by bindCommon.
 
 QWidget* bindFrame(Binding& binding, ui::Frame& frame, QWidget* parent);
 QWidget* bindLabel(Binding& binding, ui::Label& label, QWidget* parent);

@@ -64,6 +64,20 @@ private:
     ui::ListView& list_;
 };
 
+/// A click on the label of one of several selected rows leaves that one selected, as a click on its other
+/// columns does; only a row that was selected alone is edited by a click.
+class RowsView final : public QTreeView {
+public:
+    using QTreeView::QTreeView;
+
+protected:
+    using QTreeView::edit;
+    bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override {
+        const bool oneOfSeveral = trigger == SelectedClicked && selectionModel()->selectedRows().size() > 1;
+        return !oneOfSeveral && QTreeView::edit(index, trigger, event);
+    }
+};
+
 /// Keeps a Qt view and a list of the model together. The model's changes reach the view in one go when the
 /// program next serves its events.
 class ListBinder final : public QObject {
@@ -101,10 +115,22 @@ private:
                         return;
                     take(deselected, false);
                     take(selected, true);
+                    takeFocus();
                 });
-        connect(selection, &QItemSelectionModel::currentRowChanged, this, [this](const QModelIndex& current) {
+        connect(selection, &QItemSelectionModel::currentRowChanged, this, [this] {
             if (!binding_.showing())
-                list_.selectedItem = current.row();
+                takeFocus();
+        });
+        // What a user does to the rows is about what they see, and changes what is there.
+        catchUpBefore(QEvent::MouseButtonPress, *view_.viewport());
+        catchUpBefore(QEvent::KeyPress, view_);
+    }
+
+    void catchUpBefore(QEvent::Type input, QWidget& widget) {
+        new EventWatcher(widget, [this, input](QEvent& event) {
+            if (event.type() == input && catchUp_.isActive())
+                catchUp();
+            return false;
         });
     }
 
@@ -148,6 +174,7 @@ private:
     }
 
     void catchUp() {
+        catchUp_.stop();
         const Binding::Showing guard(binding_);
         rows_->announceAppended();
         showSelection();
@@ -165,8 +192,9 @@ private:
         }
         if (selection->selection() != rows)
             selection->select(rows, QItemSelectionModel::ClearAndSelect);
+        // A list that gets the focus gives it to its first row by itself.
         const QModelIndex current = rows_->index(list_.selectedItem, 0);
-        if (view_.currentIndex().row() != current.row())
+        if (current.isValid() && view_.currentIndex().row() != current.row())
             selection->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
     }
 
@@ -178,6 +206,10 @@ private:
                 list_.setSelected(row, selected);
         }
     }
+
+    /// The focus may have come to a row while the view was being told about the model, as when the page with
+    /// the list opens; so it is looked at whenever the user selects.
+    void takeFocus() { list_.selectedItem = view_.currentIndex().row(); }
 
     Binding& binding_;
     ui::ListView& list_;
@@ -204,7 +236,7 @@ void reportPresses(ui::ListView& list, QTreeView& view) {
 } // namespace
 
 QWidget* bindListView(Binding& binding, ui::ListView& list, QWidget* parent) {
-    auto* view = new QTreeView(parent);
+    auto* view = new RowsView(parent);
     view->setRootIsDecorated(false);
     view->setItemsExpandable(false);
     view->setUniformRowHeights(true);

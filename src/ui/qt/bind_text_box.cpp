@@ -46,15 +46,24 @@ QWidget* bindOneLine(Binding& binding, ui::TextBox& box, QWidget* parent) {
         edit->setText(box.text);
         edit->setCursorPosition(box.selectionStart);
     };
+    const auto takeText = [&binding, &box, edit, show] {
+        const QString written = edit->text();
+        const auto behindCaret = written.size() - edit->cursorPosition();
+        ui::type(box, written);
+        if (edit->text() == written && box.text.get() == written)
+            return;
+        const Binding::Showing guard(binding);
+        show();
+        edit->setCursorPosition(static_cast<int>(edit->text().size() - behindCaret));
+    };
     const auto showSelection = [&box, edit] { edit->setSelection(box.selectionStart, box.selectionLength); };
     binding.follow(box.text.changed, *edit, show);
     binding.listen(box.selectionStart.changed, *edit, showSelection);
     binding.listen(box.selectionLength.changed, *edit, showSelection);
-    QObject::connect(edit, &QLineEdit::textEdited, edit, [&binding, &box, show](const QString& text) {
-        if (binding.showing() || ui::type(box, text))
-            return;
-        const Binding::Showing guard(binding);
-        show();
+    // What assistive technology writes counts as typed, too, and is no "edited" text to Qt.
+    QObject::connect(edit, &QLineEdit::textChanged, edit, [&binding, takeText] {
+        if (!binding.showing())
+            takeText();
     });
     watchUser(binding, box, *edit);
     return edit;

@@ -1,6 +1,6 @@
 #include "ui/qt/control_binder.h"
 
-#include "ui/qt/appearance.h"
+#include "ui/qt/bind_common.h"
 #include "ui/qt/bind_controls.h"
 #include "ui/qt/captions.h"
 #include "ui/qt/popup_menu.h"
@@ -13,12 +13,16 @@ ControlBinder::ControlBinder(ui::Form& form, QWidget& window) {
     for (ui::Control* control : form.controls()) {
         QWidget* parent = control->container ? widgets_.at(control->container) : &window;
         if (QWidget* made = make(*control, parent)) {
-            bindAppearance(binding_, *control, *made);
+            bindCommon(binding_, *control, *made);
             widgets_.emplace(control, made);
         }
     }
     for (ui::PopupMenu* menu : form.menus())
         bindMenu(binding_, *menu, window);
+    binding_.listen(form.menuWanted, window,
+                    [this, &window](ui::PopupMenu& menu, const ui::Control& control) {
+                        popUpBelow(menuOf(binding_, menu, window), *widget(control));
+                    });
 }
 
 QWidget* ControlBinder::make(ui::Control& control, QWidget* parent) {

@@ -1,6 +1,6 @@
 #include "ui/qt/form_view.h"
 
-#include "ui/qt/appearance.h"
+#include "ui/qt/colors.h"
 #include "ui/user_actions.h"
 
 #include <QCloseEvent>
@@ -42,6 +42,9 @@ void FormView::followForm() {
     binding().follow(form_.caption.changed, *this, [this] { setWindowTitle(form_.caption); });
     binding().follow(form_.mousePointer.changed, *this, [this] { showPointer(); });
     binding().listen(form_.backColor.changed, *this, [this] { showColor(); });
+    // A window that opens late has had its colour for a while.
+    if (form_.backColor.get())
+        showColor();
     binding().listen(binding().themeChanged, *this, [this] { showColor(); });
     binding().listen(form_.width.changed, *this, [this] { showSize(); });
     binding().listen(form_.height.changed, *this, [this] { showSize(); });

@@ -13,11 +13,13 @@ QColor mixed(const QColor& ground, const QColor& ink, double share) {
                             mix(ground.blueF(), ink.blueF()));
 }
 
-/// In opaque colours: Qt starts threads to draw a translucent surface of this size.
+/// In opaque colours: Qt starts threads to draw a translucent surface of this size. On a ground that the user
+/// has chosen nothing is shaded, because what stands on it is filled with the same colour.
 void drawFrame(QPainter& painter, const QRect& frame, const QPalette& palette) {
     constexpr double kShade = 0.03, kOutline = 0.18;
     const QColor ground = palette.color(QPalette::Window), ink = palette.color(QPalette::WindowText);
-    painter.fillRect(frame, mixed(ground, ink, kShade));
+    const bool chosen = palette.isBrushSet(QPalette::Active, QPalette::Window);
+    painter.fillRect(frame, chosen ? ground : mixed(ground, ink, kShade));
     painter.setPen(mixed(ground, ink, kOutline));
     painter.drawRect(frame.adjusted(0, 0, -1, -1));
 }

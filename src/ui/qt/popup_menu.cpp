@@ -8,7 +8,6 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
-#include <QStyle>
 
 namespace tarnwell::view {
 
@@ -73,27 +72,25 @@ QMenu& menuOf(Binding& binding, ui::PopupMenu& model, QWidget& window) {
     menu->setAccessibleName(model.caption);
     for (ui::MenuEntry* entry : model.entries())
         bindEntry(binding, *entry, *menu);
+    binding.listen(model.closed, *menu, [menu] { menu->hide(); });
     return *menu;
 }
 
+void popUpBelow(QMenu& menu, const QWidget& anchor) {
+    if (menu.isVisible())
+        return;
+    const QRect place(anchor.mapToGlobal(QPoint()), anchor.size());
+    const int left = anchor.isRightToLeft() ? place.right() + 1 - menu.sizeHint().width() : place.left();
+    menu.popup({left, place.bottom() + 1});
+}
+
 void bindMenu(Binding& binding, ui::PopupMenu& model, QWidget& window) {
-    binding.listen(model.poppedUp, window, [&](int x, int y) {
-        const QPoint leading(binding.scale().pixels(x), binding.scale().pixels(y));
-        const QPoint place = QStyle::visualPos(window.layoutDirection(), window.rect(), leading);
-        QMenu& menu = menuOf(binding, model, window);
-        if (!menu.isVisible())
-            menu.popup(window.mapToGlobal(place));
-    });
     binding.listen(model.poppedUpAtPointer, window, [&] {
         QMenu& menu = menuOf(binding, model, window);
         menu.popup(QCursor::pos());
         // Without this, a menu over another program's windows would not close when the user turns away from
         // it.
         menu.activateWindow();
-    });
-    binding.listen(model.closed, window, [&] {
-        if (auto* menu = window.findChild<QMenu*>(model.name, Qt::FindDirectChildrenOnly))
-            menu->hide();
     });
 }
 

@@ -1,5 +1,6 @@
 #include "ui/qt/status_window_layout.h"
 
+#include "ui/qt/event_watcher.h"
 #include "ui/qt/layout_parts.h"
 
 #include <QLabel>
@@ -67,6 +68,12 @@ void StatusWindowLayout::layOutWindow() {
     window->addWidget(widget(form_.lblFinish));
     window->addLayout(choices);
     window->addLayout(equalButtons({widget(form_.cmdStop), widget(form_.cmdMinimize)}));
+    // It opens while the user may be typing; a stray blank must not choose that the PC be turned off.
+    new EventWatcher(window_, [harmless = widget(form_.cmdMinimize)](QEvent& event) {
+        if (event.type() == QEvent::Show && !event.spontaneous())
+            harmless->setFocus();
+        return false;
+    });
 }
 
 double StatusWindowLayout::neededPixelsPerTwip() const {

@@ -12,13 +12,46 @@ namespace tarnwell {
 namespace {
 
 std::unique_ptr<ChildProcess> startHelper(const QString& act) {
-    return QtProcessLauncher().start(test::native(test::builtProgram("windows_helper")) + ' ' + act);
+    return test::startProgram(test::native(test::builtProgram("windows_helper")) + ' ' + act);
 }
 
 TEST(ProcessLauncher, TheProgramHasAConsoleThatNobodySees) {
     const auto child = startHelper("console");
     ASSERT_TRUE(child);
     EXPECT_EQ(test::readAll(*child), "console hidden");
+}
+
+TEST(ProcessLauncher, TheProgramSeesItsPathInQuotesIfItHasBlanksAndTheRestAsItStands) {
+    const QTemporaryDir folder;
+    ASSERT_TRUE(QDir(folder.path()).mkpath("my tools"));
+    const QString rest = " command-line  a\\\"b c\"\t\"\" \\ ";
+    for (const auto& [name, quote] : {std::pair{"my tools/the helper.exe", "\""}, {"helper.exe", ""}}) {
+        const QString program = test::native(folder.filePath(name));
+        ASSERT_TRUE(QFile::copy(test::builtProgram("windows_helper"), program));
+        const auto child = test::startProgram(program + rest);
+        ASSERT_TRUE(child);
+        EXPECT_EQ(test::readAll(*child), (quote + program + quote + rest).toUtf8());
+    }
+}
+
+/// Windows by itself adds one, and finds C:\Program.exe where C:\Program Files\... is meant.
+TEST(ProcessLauncher, NoEndingIsAddedToAPath) {
+    const QTemporaryDir folder;
+    ASSERT_TRUE(QFile::copy(test::builtProgram("windows_helper"), folder.filePath("helper.exe")));
+    EXPECT_FALSE(test::startProgram(test::native(folder.filePath("helper")) + " console"));
+}
+
+TEST(ProcessLauncher, WhyAProgramCannotBeStartedIsTold) {
+    const QTemporaryDir folder;
+    QFile file(folder.filePath("no program.exe"));
+    ASSERT_TRUE(file.open(QFile::WriteOnly));
+    file.write("just words");
+    file.close();
+    const QString program = test::native(file.fileName());
+    QString whyNot;
+    EXPECT_FALSE(QtProcessLauncher().start(program + " query", whyNot));
+    // The toolkit knows the system's words only where they name nothing, and the number of the error else.
+    EXPECT_EQ(whyNot, program + " could not be started: Unknown error 0x000000c1.");
 }
 
 TEST(ProcessLauncher, TheProgramGetsNothingOfOursButItsStreams) {
@@ -54,7 +87,7 @@ TEST(ProcessLauncher, TheToolIsInterruptedAtItsWork) {
     ASSERT_TRUE(behaviour.open(QFile::WriteOnly));
     behaviour.write("notice = at work\nhang_at_percent = 0\n");
     behaviour.close();
-    const auto tool = QtProcessLauncher().start(test::native(tools) + "\\tarnwell.exe query");
+    const auto tool = test::startProgram(test::native(tools) + "\\tarnwell.exe query");
     ASSERT_TRUE(tool);
     const test::Ending ending(*tool);
     ASSERT_TRUE(test::readUntil(*tool, "at work"));

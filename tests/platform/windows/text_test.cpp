@@ -1,4 +1,4 @@
-#include "app/config_store.h"
+#include "base/config_store.h"
 #include "platform/helpers.h"
 #include "platform/windows/system.h"
 #include "support/gtest_qt.h"
@@ -106,6 +106,25 @@ TEST_F(ProfileStrings, BothMayWriteInTurn) {
     QFile file(path_);
     ASSERT_TRUE(file.open(QFile::ReadOnly));
     EXPECT_EQ(file.readAll(), "[tarnwell]\r\nFirst=4\r\nSecond=5\r\nThird=3\r\n");
+}
+
+TEST_F(ProfileStrings, AFileInUtf16IsSharedToo) {
+    const QString text = "[tarnwell]\r\nFirst=1\r\n";
+    QFile file(path_);
+    ASSERT_TRUE(file.open(QFile::WriteOnly));
+    file.write("\xFF\xFE");
+    file.write(reinterpret_cast<const char*>(text.utf16()), text.size() * 2);
+    file.close();
+    EXPECT_EQ(read("First"), "1");
+    write("Second", "2");
+    writeBySystem("Third", "3");
+    write("First", "4");
+    for (const auto& [key, value] : {std::pair{"First", "4"}, {"Second", "2"}, {"Third", "3"}}) {
+        EXPECT_EQ(readBySystem(key), value);
+        EXPECT_EQ(read(key), value);
+    }
+    ASSERT_TRUE(file.open(QFile::ReadOnly));
+    EXPECT_EQ(file.readAll().left(2), "\xFF\xFE");
 }
 
 TEST_F(ProfileStrings, OddFilesAreReadAlike) {

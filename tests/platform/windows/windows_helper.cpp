@@ -25,6 +25,16 @@ int tellHandle(const char* handle) {
     return 0;
 }
 
+/// In UTF-8, without a line end.
+int tellCommandLine() {
+    char bytes[4096];
+    const int size =
+        WideCharToMultiByte(CP_UTF8, 0, GetCommandLineW(), -1, bytes, sizeof bytes, nullptr, nullptr);
+    DWORD written = 0; // not through the C library, which changes line ends
+    WriteFile(GetStdHandle(STD_OUTPUT_HANDLE), bytes, static_cast<DWORD>(size - 1), &written, nullptr);
+    return 0;
+}
+
 LRESULT CALLBACK endWhenClosed(HWND window, UINT message, WPARAM word, LPARAM data) {
     if (message == WM_CLOSE)
         PostQuitMessage(0);
@@ -53,6 +63,8 @@ int main(int argc, char** argv) {
     const std::string act = argc > 1 ? argv[1] : "";
     if (act == "console")
         return tellConsole(argv[2]);
+    if (act == "command-line")
+        return tellCommandLine();
     if (act == "handle")
         return tellHandle(argv[2]);
     if (act == "window")

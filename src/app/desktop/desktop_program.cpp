@@ -1,0 +1,42 @@
+#include "app/desktop/desktop_program.h"
+
+#include "ui/qt/application_icon.h"
+#include "ui/qt/colors.h"
+#include "ui/qt/event_watcher.h"
+
+#include <QGuiApplication>
+#include <QTimer>
+
+#include <utility>
+
+namespace tarnwell {
+
+DesktopProgram::DesktopProgram(const QtSystemFolders& folders)
+    : ports_(
+          view::applicationIcon(), [this] { return mainWindow_.currentScale().pixelsPerTwip(); },
+          view::toColor, folders),
+      program_(ports_.ports()), mainWindow_(program_.shared().frmMain),
+      settingsWindow_(program_.shared().frmSettings.untouched()),
+      statusWindow_(program_.shared().frmStatus.untouched()),
+      aboutWindow_(program_.shared().frmAbout.untouched()) {
+    giveIconOnceShown();
+    ports_.tray.makeMenu = [this] { return &mainWindow_.menu(program_.shared().frmMain.mnuSystray); };
+    mainWindow_.hideMinimises = !ports_.tray.available();
+    mainWindow_.restored = [this] { program_.hideAndRestore().restore(); };
+}
+
+void DesktopProgram::giveIconOnceShown() {
+    // Desktops take an icon in all its sizes, and reading those takes as long as laying out the window.
+    new view::EventWatcher(mainWindow_, [given = false](QEvent& event) mutable {
+        if (event.type() == QEvent::Paint && !std::exchange(given, true))
+            QTimer::singleShot(0, qApp, [] { QGuiApplication::setWindowIcon(view::applicationIcon()); });
+        return false;
+    });
+}
+
+int DesktopProgram::run() {
+    program_.start();
+    return ports_.pump.run();
+}
+
+} // namespace tarnwell
