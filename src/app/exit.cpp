@@ -12,6 +12,7 @@ Exit::Exit(Shared& shared, cStdIO& StdIO) : shared_(shared), StdIO_(StdIO) {
     shared_.frmMain.mnuExit.Click = [this] { exitProgram(); };
     shared_.frmMain.Unload = [this](bool&) { exitProgram(); };
     shared_.frmMain.CloseAgain = [this] { exitProgram(); };
+    shared_.ports.session.ending = [this] { endWithSession(); };
 }
 
 void Exit::exitProgram() {
@@ -34,6 +35,13 @@ void Exit::turnConsoleOff() {
         return;
     const QScopedValueRollback waiting(consoleGoesOff_, true);
     StdIO_.ExecuteCommand(shared_.config.ToolPath() + " poweroff " + address);
+}
+
+void Exit::endWithSession() {
+    // With the session goes the tool, wherever it is. Told now, it can still finish what it writes.
+    StdIO_.interrupt();
+    TrayRemove(shared_.ports.tray);
+    shared_.ports.pump.end();
 }
 
 void Exit::end() {

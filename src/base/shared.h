@@ -21,7 +21,8 @@ struct Shared {
     ui::LoadedOnTouch<ui::FrmStatus> frmStatus;
     ui::LoadedOnTouch<ui::FrmAbout> frmAbout;
 
-    QString title; ///< the application's title, which message boxes and the tray tip carry
+    QString title;        ///< the application's title, which message boxes and the tray tip carry
+    QString listedDevice; ///< whose games and free space were read last, as the window names it
 
     qint16 intJobIndex = 0;         ///< the row of lstJob, counted from 1, that the queue is working on
     qint32 lJobStartTick = 0;       ///< tick count at the start of the job

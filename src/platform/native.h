@@ -31,6 +31,10 @@ std::unique_ptr<OutputPipe> prepareProcess(QProcess& process, const QString& pro
 /// What the user can do about a program that the system refuses to start; empty if nothing is known.
 QString hintAtStart(const QString& program);
 
+/// What the system says of a failed start, if the toolkit gave only the number of the error for it; else
+/// `words`.
+QString wordsOfError(const QString& words);
+
 /// Sends the interrupt of Ctrl+C to a process that `prepareProcess` has set up and that runs.
 /// False if the system refused.
 bool interruptProcess(qint64 processId);
@@ -55,6 +59,7 @@ std::unique_ptr<Sound> makeSound();
 std::unique_ptr<Power> makePower();
 std::unique_ptr<Ping> makePing();
 std::unique_ptr<WakeLock> makeWakeLock();
+std::unique_ptr<DesktopSession> makeDesktopSession();
 std::unique_ptr<TaskbarProgress> makeTaskbarProgress();
 
 } // namespace tarnwell::native

@@ -224,6 +224,19 @@ public:
     virtual void release() = 0;
 };
 
+/// The user's session at the desktop, which may end while work runs: by a logout, or with the machine.
+class DesktopSession {
+public:
+    virtual ~DesktopSession() = default;
+    /// From now on the system is asked to wait with that end. `reason` is what it shows to the user then.
+    /// Does nothing while the system has been asked already, or where it knows of no such thing.
+    virtual void holdUp(const QString& reason) = 0;
+    virtual void release() = 0;
+    /// The session ends all the same, or the system asks the program to end. The program has little time
+    /// left: what is done here must not wait. Attached by the program at its start.
+    std::function<void()> ending;
+};
+
 /// How far work has come, on the button that the program's shown window has in the task bar. Does nothing
 /// where buttons cannot show that.
 class TaskbarProgress {
@@ -283,6 +296,7 @@ struct Ports {
     HttpListener& listener;
     UrlOpener& browser;
     WakeLock& wakeLock;
+    DesktopSession& session;
     TaskbarProgress& taskbar;
     SystemFolders& folders;
     WindowManager& windows;

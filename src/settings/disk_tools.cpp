@@ -4,6 +4,7 @@
 #include "base/picked_path.h"
 #include "interpreter/tool_commands.h"
 #include "services/mod_ping.h"
+#include "work/work_under_way.h"
 #include "workflows/device_selection.h"
 #include "workflows/query.h"
 
@@ -41,7 +42,7 @@ QString setAside(const QString& file) {
 class LongWork {
 public:
     LongWork(Shared& shared, GuiSwitch& guiSwitch)
-        : pause_(guiSwitch), hourglass_(shared.frmSettings.untouched()),
+        : work_(shared.ports), pause_(guiSwitch), hourglass_(shared.frmSettings.untouched()),
           fmTools_(shared.frmSettings.untouched().fmTools) {
         fmTools_.enabled = false;
     }
@@ -50,6 +51,7 @@ public:
     LongWork& operator=(const LongWork&) = delete;
 
 private:
+    const WorkUnderWay work_;
     const PauseOfMainWindow pause_;
     const Hourglass hourglass_;
     ui::Frame& fmTools_;

@@ -2,6 +2,7 @@
 
 #include "interpreter/tool_commands.h"
 #include "status/wait_seconds.h"
+#include "work/work_under_way.h"
 #include "workflows/command_arguments.h"
 #include "workflows/hourglass.h"
 #include "workflows/listed_device.h"
@@ -40,6 +41,7 @@ void DeleteGames::deleteNow() {
         return;
     bool ran = !games.isEmpty();
     {
+        const WorkUnderWay work(shared_.ports);
         const Hourglass hourglass(shared_.frmMain);
         const QString device = ActiveDeviceShort(shared_.frmMain);
         for (const QString& game : games) {

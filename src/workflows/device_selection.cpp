@@ -122,6 +122,7 @@ void DeviceSelection::readGameList(AwaitedAnswer& gameList) {
     if (!deviceChanged()) {
         const ReadingGamesOf device(shared_.frmMain.lstHD, asked);
         interpreter_.ParseToolOutput(answer);
+        shared_.listedDevice = asked;
     }
     // The games of one device must not stand there, ready to be deleted, beside the address of another.
     // Drawing the bar in the middle of the reading lets events in as well.

@@ -2,6 +2,7 @@
 
 #include "base/fault.h"
 #include "base/text_primitives.h"
+#include "workflows/listed_device.h"
 
 #include <limits>
 
@@ -33,6 +34,8 @@ qint32 RoundUp128(qint32 size) {
 }
 
 bool requireFreeSpace(Shared& shared) {
+    if (!requireListedDisk(shared, shared.listedDevice))
+        return false;
     const QString available = shared.frmMain.picDiskSpace.tag;
     const qint32 needed = RoundUp128(sizeOfSource(shared.frmMain.txtGameSize.tag));
     if (Val(available) >= needed)

@@ -8,8 +8,9 @@ namespace tarnwell {
 /// multiple. One that a 32-bit number cannot hold is a Fault.
 qint32 RoundUp128(qint32 size);
 
-/// Tells the user that the game of the install page does not fit on the active device, and how much it needs.
-/// Returns whether it fits. A source whose size was never read is a Fault.
+/// Tells the user that the game of the install page does not fit on the active device, and how much it needs,
+/// or that the free space of that device was not read. Returns whether it fits. A source whose size was never
+/// read is a Fault.
 bool requireFreeSpace(Shared& shared);
 
 } // namespace tarnwell

@@ -25,8 +25,9 @@ private:
 /// The device that is in use as the window names it: the address, or the entry of the chosen disk.
 QString DeviceOnView(const ui::FrmMain& form);
 
-/// Tells the user that a game was read from another disk than the one that is chosen now. Returns whether it
-/// is the same. A console is always the same, because the list is emptied when its address changes.
+/// Tells the user that a game, or the free space, was read from another disk than the one that is chosen now.
+/// Returns whether it is the same. A console is always the same, because all is emptied when its address
+/// changes.
 bool requireListedDisk(Shared& shared, const QString& deviceOfGame);
 
 } // namespace tarnwell

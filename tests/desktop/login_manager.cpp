@@ -54,6 +54,13 @@ void LoginManager::answerNow() {
     handOut(waiting_);
 }
 
+void LoginManager::prepareForShutdown(bool begins) {
+    QDBusMessage signal = QDBusMessage::createSignal("/org/freedesktop/login1",
+                                                     "org.freedesktop.login1.Manager", "PrepareForShutdown");
+    signal.setArguments({begins});
+    bus_.send(signal);
+}
+
 int LoginManager::held() const {
     return static_cast<int>(std::count_if(locks_.begin(), locks_.end(), hasWriter));
 }

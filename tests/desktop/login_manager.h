@@ -19,6 +19,8 @@ public:
     std::vector<QVariantList> requests; ///< the arguments of each
 
     void answerNow();
+    /// Tells all programs that the machine is about to go down, or no longer is.
+    void prepareForShutdown(bool begins);
     /// How many of its locks are open in other hands.
     int held() const;
 

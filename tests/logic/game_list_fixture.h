@@ -81,7 +81,6 @@ protected:
     static inline const QString kLongName = QString::fromLocal8Bit(
         (QString::fromUtf8("P\xc3\xa9rg\xc5\x8dla ").repeated(40) + "\"quoted\"").toLocal8Bit());
 
-private:
     qsizetype commandsBefore_ = 0;
 };
 

@@ -14,6 +14,14 @@ struct ListedDisk : GameListTest {
         ui::choose(frmMain.cmbHD, 1);
     }
 
+    void chooseImage() {
+        answerDiscInfoWith("DVD 4193280KB \"BEACON\" \"SLUS_990.71\"\r\n");
+        ui::click(frmMain.optInstall);
+        ports.dialogs.openFileAnswers.emplace_back("/games/beacon.iso");
+        ui::click(frmMain.cmdISO);
+        ui::type(frmMain.txtGameName, "Beacon");
+        commandsBefore_ = commands().size();
+    }
     void deleteNow() { ui::click(frmMain.mnuDeleteNow); }
     void copyToPc() {
         ports.dialogs.saveFileAnswers.emplace_back("/games/lantern.iso");
@@ -65,6 +73,22 @@ TEST_F(ListedDisk, NoGameIsRenamedOnAnotherDisk) {
     EXPECT_FALSE(ui::editLabel(frmMain.lstHD, 0, "Beacon"));
     expectRefused();
     EXPECT_EQ(names(), QStringList({"Lantern", "Copper Run"}));
+}
+
+TEST_F(ListedDisk, NoGameIsInstalledOnADiskWhoseFreeSpaceIsNotKnown) {
+    chooseImage();
+    ui::click(frmMain.cmdInstall);
+    expectRefused();
+}
+
+TEST_F(ListedDisk, NoInstallIsQueuedForADiskWhoseFreeSpaceIsNotKnown) {
+    chooseImage();
+    ui::click(frmMain.cmdAddGame);
+    expectRefused();
+    EXPECT_EQ(frmMain.txtGameName.text.get(), "Beacon") << "nothing that was entered is lost";
+    listSecondDisk();
+    ui::click(frmMain.cmdAddGame);
+    EXPECT_EQ(commandsOfJobs(), QStringList("inject_dvd hdd2: Beacon /games/beacon.iso SLUS_990.71"));
 }
 
 TEST_F(ListedDisk, NoGameIsCopiedFromAnotherDiskToAFile) {

@@ -19,24 +19,27 @@ struct WorkUnderWay : QueueTest {
     void lookInTheMiddle() {
         ports.pump.after(kInTheMiddleMs, [this] {
             awake = ports.wakeLock.held;
+            heldUp = ports.session.heldUp;
             percent = ports.taskbar.percent;
         });
     }
     void expectOver() {
         EXPECT_FALSE(ports.wakeLock.held);
+        EXPECT_FALSE(ports.session.heldUp);
         EXPECT_FALSE(ports.taskbar.percent);
     }
 
     bool awake = false;
+    bool heldUp = false;
     std::optional<int> percent;
 };
 
-/// Notes whether the machine is kept awake when it is sent to sleep.
+/// Notes whether the machine is kept awake, or the session held up, when the machine is sent to sleep.
 struct WatchedPower : Power {
-    explicit WatchedPower(const FakeWakeLock& lock) : wakeLock(lock) {}
+    explicit WatchedPower(const FakePorts& ports) : fakes(ports) {}
     void shutDown() override {}
-    void standBy() override { heldAtStandBy = wakeLock.held; }
-    const FakeWakeLock& wakeLock;
+    void standBy() override { heldAtStandBy = fakes.wakeLock.held || fakes.session.heldUp; }
+    const FakePorts& fakes;
     std::optional<bool> heldAtStandBy;
 };
 
@@ -63,6 +66,56 @@ TEST_F(WorkUnderWay, AQueueKeepsTheMachineAwakeFromItsFirstJobToItsLast) {
     EXPECT_EQ(percent, 25) << "half of the first of two jobs";
     EXPECT_EQ(ports.wakeLock.reasons.size(), 1);
     expectOver();
+}
+
+TEST_F(WorkUnderWay, TheSystemIsAskedToWaitWithTheEndOfTheSessionAndToldWhy) {
+    prepareInstall();
+    lookInTheMiddle();
+    ui::click(frmMain.cmdInstall);
+    EXPECT_TRUE(heldUp);
+    EXPECT_EQ(ports.session.reasons, QStringList("Work on PS2 games is under way"));
+    expectOver();
+}
+
+TEST_F(WorkUnderWay, ADeleteAtOnceIsWork) {
+    ui::click(frmMain.optBrowse);
+    frmMain.lstHD.select(0);
+    ports.pump.after(500, [this] { heldUp = ports.session.heldUp; });
+    ui::click(frmMain.mnuDeleteNow);
+    EXPECT_TRUE(heldUp);
+    expectOver();
+}
+
+TEST_F(WorkUnderWay, AFormatIsWork) {
+    ui::FrmSettings& frmSettings = *program.shared().frmSettings;
+    ui::click(frmMain.cmdSettings);
+    ui::selectTab(frmSettings.TabStrip, ui::FrmSettings::kToolsTab);
+    ui::click(frmSettings.cmdRefresh);
+    ui::choose(frmSettings.cmbHD, 0);
+    answerWith("initialize", ChildScript{.endsAtMs = 1000});
+    ports.pump.after(500, [this] { heldUp = ports.session.heldUp; });
+    ui::click(frmSettings.cmdFormat);
+    EXPECT_TRUE(heldUp);
+    expectOver();
+}
+
+TEST_F(WorkUnderWay, GivesTheToolItsInterruptIfTheSessionEndsAllTheSame) {
+    store("ClosePS2", "1");
+    prepareInstall();
+    ports.pump.after(kInTheMiddleMs, [this] { ports.session.ending(); });
+    ui::click(frmMain.cmdInstall);
+    EXPECT_EQ(ports.launcher.children.back()->interrupts, 1);
+    EXPECT_EQ(commands().filter("poweroff"), QStringList()) << "there is no time for it";
+    EXPECT_TRUE(ports.pump.ended());
+    EXPECT_FALSE(ports.tray.shown);
+    EXPECT_TRUE(ports.dialogs.messages.empty()) << "nobody could read it";
+    expectOver();
+}
+
+TEST_F(WorkUnderWay, TheEndOfTheSessionWithoutWorkEndsTheProgram) {
+    ports.session.ending();
+    EXPECT_TRUE(ports.pump.ended());
+    EXPECT_FALSE(ports.tray.shown);
 }
 
 TEST_F(WorkUnderWay, ARefusedStartLeavesTheMachineAlone) {
@@ -136,10 +189,11 @@ TEST_F(WorkUnderWay, ThePercentOnTheTaskButtonStaysInItsRange) {
 
 TEST(WorkUnderWayAtItsEnd, TheMachineCanBeSentToSleepByTheCompletionActions) {
     FakePorts fakes;
-    WatchedPower power(fakes.wakeLock);
-    const Ports ports{fakes.pump,    fakes.clock,    fakes.launcher, fakes.processes, fakes.dialogs,
-                      fakes.tray,    fakes.sound,    power,          fakes.ping,      fakes.listener,
-                      fakes.browser, fakes.wakeLock, fakes.taskbar,  fakes.folders,   fakes.windows};
+    WatchedPower power(fakes);
+    const Ports ports{fakes.pump,    fakes.clock,    fakes.launcher, fakes.processes,
+                      fakes.dialogs, fakes.tray,     fakes.sound,    power,
+                      fakes.ping,    fakes.listener, fakes.browser,  fakes.wakeLock,
+                      fakes.session, fakes.taskbar,  fakes.folders,  fakes.windows};
     QFile tool(fakes.folders.folder + "/tarnwell.exe");
     ASSERT_TRUE(tool.open(QIODevice::WriteOnly));
     fakes.launcher.on("inject", "100%\r");

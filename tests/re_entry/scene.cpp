@@ -139,6 +139,7 @@ void Scene::lookAtRest() {
     lookAtOrigins();
     lookAtJobs();
     demand(!ports.wakeLock.held, "the machine may never sleep again");
+    demand(!ports.session.heldUp, "the user's session may never end again");
 }
 
 /// Nothing is called done for which the tool never ran.

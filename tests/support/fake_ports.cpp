@@ -299,4 +299,9 @@ void FakeWakeLock::hold(const QString& reason) {
     reasons.append(reason);
 }
 
+void FakeDesktopSession::holdUp(const QString& reason) {
+    heldUp = true;
+    reasons.append(reason);
+}
+
 } // namespace tarnwell::test

@@ -272,6 +272,15 @@ public:
     void release() override { held = false; }
 };
 
+class FakeDesktopSession : public DesktopSession {
+public:
+    bool heldUp = false;
+    QStringList reasons; ///< of all that were given
+
+    void holdUp(const QString& reason) override;
+    void release() override { heldUp = false; }
+};
+
 class FakeTaskbarProgress : public TaskbarProgress {
 public:
     std::optional<int> percent; ///< while it is shown
@@ -323,13 +332,14 @@ struct FakePorts {
     FakeHttpListener listener{journal};
     FakeUrlOpener browser;
     FakeWakeLock wakeLock;
+    FakeDesktopSession session;
     FakeTaskbarProgress taskbar;
     FakeSystemFolders folders;
     FakeWindowManager windows;
 
     Ports ports() {
-        return {pump, clock,    launcher, processes, dialogs, tray,    sound,  power,
-                ping, listener, browser,  wakeLock,  taskbar, folders, windows};
+        return {pump, clock,    launcher, processes, dialogs, tray,    sound,   power,
+                ping, listener, browser,  wakeLock,  session, taskbar, folders, windows};
     }
 };
 

@@ -77,6 +77,10 @@ QString hintAtStart(const QString& program) {
     return "It is not marked as a program. In a terminal this marks it: chmod +x \"" + program + '"';
 }
 
+QString wordsOfError(const QString& words) {
+    return words;
+}
+
 bool interruptProcess(qint64 processId) {
     // The whole session, as a terminal does: the program may have been started through a script.
     return ::kill(-static_cast<pid_t>(processId), SIGINT) == 0;

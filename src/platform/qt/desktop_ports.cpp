@@ -9,11 +9,11 @@ DesktopPorts::DesktopPorts(const QIcon& icon, std::function<double()> pixelsPerT
     : dialogs(pump, std::move(toColor)), tray(icon), folders(std::move(systemFolders)),
       windows(std::move(pixelsPerTwip)), processes(native::makeProcesses()), sound(native::makeSound()),
       power(native::makePower()), ping(native::makePing()), wakeLock(native::makeWakeLock()),
-      taskbar(native::makeTaskbarProgress()) {}
+      session(native::makeDesktopSession()), taskbar(native::makeTaskbarProgress()) {}
 
 Ports DesktopPorts::ports() {
-    return {pump,  clock,    launcher, *processes, dialogs,  tray,    *sound, *power,
-            *ping, listener, browser,  *wakeLock,  *taskbar, folders, windows};
+    return {pump,  clock,    launcher, *processes, dialogs,  tray,     *sound,  *power,
+            *ping, listener, browser,  *wakeLock,  *session, *taskbar, folders, windows};
 }
 
 } // namespace tarnwell

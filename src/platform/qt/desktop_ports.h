@@ -35,6 +35,7 @@ struct DesktopPorts {
     std::unique_ptr<Power> power;
     std::unique_ptr<Ping> ping;
     std::unique_ptr<WakeLock> wakeLock;
+    std::unique_ptr<DesktopSession> session;
     std::unique_ptr<TaskbarProgress> taskbar;
 };
 

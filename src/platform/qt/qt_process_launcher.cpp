@@ -57,7 +57,7 @@ QString wordsOfSystem(const QProcess& process) {
     const qsizetype step = words.indexOf(separator);
     if (step >= 0)
         words = words.mid(step + separator.size());
-    return words.replace("%1", process.program());
+    return native::wordsOfError(words).replace("%1", process.program());
 }
 
 } // namespace

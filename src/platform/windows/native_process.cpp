@@ -2,6 +2,7 @@
 #include "platform/windows/system.h"
 
 #include <QProcess>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <string>
@@ -133,6 +134,21 @@ std::unique_ptr<native::OutputPipe> native::prepareProcess(QProcess& process, co
 
 QString native::hintAtStart(const QString&) {
     return {};
+}
+
+QString native::wordsOfError(const QString& words) {
+    // So the toolkit tells of errors whose words name a file.
+    static const QRegularExpression onlyNumber("^Unknown error 0x([0-9a-f]+)");
+    const auto match = onlyNumber.match(words);
+    if (!match.hasMatch())
+        return words;
+    wchar_t* text = nullptr;
+    const DWORD length = FormatMessageW(
+        FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
+        match.captured(1).toUInt(nullptr, 16), 0, reinterpret_cast<wchar_t*>(&text), 0, nullptr);
+    const QString found = QString::fromWCharArray(text, static_cast<qsizetype>(length)).trimmed();
+    LocalFree(text);
+    return found.isEmpty() ? words : found;
 }
 
 } // namespace tarnwell

@@ -5,6 +5,7 @@
 #include "platform/qt/qt_tray.h"
 #include "platform/system_helpers.h"
 #include "platform/windows/windows_power.h"
+#include "platform/windows/windows_session.h"
 #include "platform/windows/windows_taskbar_progress.h"
 #include "support/gtest_qt.h"
 
@@ -119,6 +120,32 @@ TEST(WakeLock, MayBeHeldAndReleasedAtAnyTimeAndLeavesNothingBehind) {
         lock->release();
     }
     EXPECT_EQ(test::openHandles(), before);
+}
+
+TEST(Session, TheSystemHearsTheReasonAndIsAskedToWaitAsLongAsItIsHeldUp) {
+    QWidget window;
+    window.show();
+    QStringList told;
+    WindowsSession session(
+        [&](HWND, const wchar_t* reason) { told += reason ? QString::fromWCharArray(reason) : "no more"; });
+    int ends = 0;
+    session.ending = [&] { ++ends; };
+    const auto tell = [&](UINT message, WPARAM word) {
+        return SendMessageW(reinterpret_cast<HWND>(window.winId()), message, word, 0);
+    };
+    EXPECT_EQ(tell(WM_QUERYENDSESSION, 0), TRUE);
+    tell(WM_ENDSESSION, FALSE);
+    session.holdUp("Work is under way");
+    session.holdUp("again");
+    EXPECT_EQ(tell(WM_QUERYENDSESSION, 0), FALSE);
+    tell(WM_ENDSESSION, FALSE);
+    EXPECT_EQ(ends, 0);
+    tell(WM_ENDSESSION, TRUE);
+    EXPECT_EQ(ends, 1);
+    session.release();
+    session.release();
+    EXPECT_EQ(tell(WM_QUERYENDSESSION, 0), TRUE);
+    EXPECT_EQ(told, QStringList({"Work is under way", "no more"}));
 }
 
 /// The system's own dialogs for files, which the other tests do without.

@@ -50,8 +50,12 @@ TEST(ProcessLauncher, WhyAProgramCannotBeStartedIsTold) {
     const QString program = test::native(file.fileName());
     QString whyNot;
     EXPECT_FALSE(QtProcessLauncher().start(program + " query", whyNot));
-    // The toolkit knows the system's words only where they name nothing, and the number of the error else.
-    EXPECT_EQ(whyNot, program + " could not be started: Unknown error 0x000000c1.");
+    const QString start = program + " could not be started: ";
+    EXPECT_TRUE(whyNot.startsWith(start)) << whyNot.toStdString();
+    const QString reason = whyNot.mid(start.size());
+    EXPECT_TRUE(reason.contains(program))
+        << "the system's words for this name the file: " << whyNot.toStdString();
+    EXPECT_FALSE(reason.contains("0x") || reason.contains("%1")) << whyNot.toStdString();
 }
 
 TEST(ProcessLauncher, TheProgramGetsNothingOfOursButItsStreams) {
