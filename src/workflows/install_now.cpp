@@ -10,13 +10,21 @@
 
 #include <QScopeGuard>
 
+#include <algorithm>
+
 namespace tarnwell {
 
 namespace {
 
-QString lastLine(QString text) {
-    const QStringList lines = text.replace('\r', '\n').split('\n', Qt::SkipEmptyParts);
-    return lines.value(lines.size() - 1).trimmed();
+QStringList linesOf(QString text) {
+    return text.replace('\r', '\n').split('\n', Qt::SkipEmptyParts);
+}
+
+/// A line that nobody can read, such as one that is torn, keeps those that came with it from the bars.
+bool reached100(const QString& output) {
+    const QStringList lines = linesOf(output);
+    return std::any_of(lines.begin(), lines.end(),
+                       [](const QString& line) { return line.trimmed().startsWith(QLatin1String("100%")); });
 }
 
 } // namespace
@@ -75,10 +83,10 @@ QString InstallNow::runTool(const Installation& game) {
     shared_.lJobStartTick = shared_.ports.clock.tickCount();
     const ServerDuringWork server(statusServer_);
     shared_.balloon("Installing [" + game.name + "] to [" + game.device + "]");
-    channel_.Tarn_Command(InstallCommand(game));
+    const QString output = channel_.Tarn_Command(InstallCommand(game));
     if (shared_.blnInstallRunning && shared_.blnJobStopped)
         WaitForCancelledTool(shared_, StdIO_);
-    QString failure = failureOf(game);
+    QString failure = reached100(output) ? QString() : failureOf(game);
     shared_.blnInstallRunning = false;
     resetInstallPage(shared_.frmMain);
     return failure;
@@ -88,7 +96,8 @@ QString InstallNow::runTool(const Installation& game) {
 QString InstallNow::failureOf(const Installation& game) const {
     if (!shared_.blnInstallRunning || shared_.blnJobStopped)
         return {};
-    const QString words = lastLine(shared_.frmMain.txtOutput.text);
+    const QStringList lines = linesOf(shared_.frmMain.txtOutput.text);
+    const QString words = lines.value(lines.size() - 1).trimmed();
     return game.name + " was not installed completely. " +
            (words.isEmpty() ? "tarnwell.exe did not say why." : "The last words of tarnwell.exe: " + words);
 }

@@ -44,6 +44,13 @@ TEST_F(FailedInstall, IsNotToldOfOneThatReached100) {
     EXPECT_EQ(ports.dialogs.messageTexts(), QStringList());
 }
 
+TEST_F(FailedInstall, IsNotToldOfOneWhoseLastLinesCameBehindAnUnreadableOne) {
+    install(
+        {.output = {{"99999999999%\r100%, 0 sec remaining, 4.00 MB/sec\rBye\r\n", 100}}, .endsAtMs = 300});
+    EXPECT_EQ(ports.dialogs.messages.size(), 1u);
+    EXPECT_FALSE(lastMessage().contains("not installed")) << lastMessage().toStdString();
+}
+
 TEST_F(FailedInstall, IsNotToldOfOneThatWasCancelled) {
     ports.pump.after(1000, [this] { ui::click(frmStatus->cmdStop); });
     install({.output = {{"1%, 12 min remaining, 3.50 MB/sec\r", 100}}, .endsAtMs = 100'000});
