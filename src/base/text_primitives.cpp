@@ -33,25 +33,21 @@ bool isExponentMark(QChar character) {
     return character == u'e' || character == u'E' || character == u'd' || character == u'D';
 }
 
-/// The longest beginning of `text` that is a number, as C++ spells it.
+/// What `text` begins with of what numbers are made of, as C++ spells it; a number may end before that does.
 std::string numberAtStart(const QString& text) {
     std::string number;
-    bool point = false;
-    bool exponent = false;
     QChar previous;
     for (const QChar character : text) {
         if (isSkipped(character))
             continue;
         const bool mayBeSigned = previous.isNull() || isExponentMark(previous);
-        if (isDigit(character) || (isSign(character) && mayBeSigned)) {
-            // from_chars takes no plus in front of a number.
-            if (character != u'+' || exponent)
-                number += character.toLatin1();
-        } else if (character == u'.' && !point && !exponent) {
-            point = true;
-            number += '.';
-        } else if (isExponentMark(character) && !exponent && !number.empty()) {
-            exponent = true;
+        if (isDigit(character) || character == u'.') {
+            number += character.toLatin1();
+        } else if (isSign(character) && mayBeSigned) {
+            // from_chars takes no plus in front of a number, and needs none in an exponent.
+            if (character == u'-')
+                number += '-';
+        } else if (isExponentMark(character)) {
             number += 'e';
         } else {
             break;

@@ -82,12 +82,13 @@ TEST_F(ConfigStoreTest, FindsSectionAndKeyWhateverTheirCaseAndBlanks) {
 }
 
 TEST_F(ConfigStoreTest, StripsOnePairOfQuotes) {
-    put("[tarnwell]\nA=\"quoted text\"\nB='single'\nC=\"\"twice\"\"\nD=\"open\nE=\"\n");
+    put("[tarnwell]\nA=\"quoted text\"\nB='single'\nC=\"\"twice\"\"\nD=\"open\nE=\"\nF=\"\"\n");
     EXPECT_EQ(config.text("A"), "quoted text");
     EXPECT_EQ(config.text("B"), "single");
     EXPECT_EQ(config.text("C"), "\"twice\"");
     EXPECT_EQ(config.text("D"), "\"open");
     EXPECT_EQ(config.text("E"), "\"");
+    EXPECT_EQ(config.text("F"), "");
 }
 
 TEST_F(ConfigStoreTest, CutsALongValueAt254Characters) {

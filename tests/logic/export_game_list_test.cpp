@@ -94,6 +94,11 @@ TEST_F(ExportGameList, ANameOneCharacterLongerThanTheLongestSoFarGetsNoBlank) {
     EXPECT_EQ(exported("|"), "1. Sixsix |\r\n2. Five5  |\r\n");
 }
 
+TEST_F(ExportGameList, ANameOfOneLetterIsLongerThanNone) {
+    list({"A"});
+    EXPECT_EQ(exported("|"), "1. A |\r\n");
+}
+
 TEST_F(ExportGameList, ACancelledFormatLeavesNumbersAndNames) {
     list({"Lantern", "Fen"});
     EXPECT_EQ(exported(std::nullopt), "1. Lantern \r\n2. Fen     \r\n");

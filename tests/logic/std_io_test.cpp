@@ -158,6 +158,12 @@ TEST_F(StdIOTest, ACancelledRunTakesOneMoreChunkOfWhatWaits) {
     EXPECT_EQ(StdIO.ExecuteCommand("tool").size(), 2 * 4096);
 }
 
+TEST_F(StdIOTest, ARunThatIsCancelledAtOnceTakesOneChunkOfWhatWaits) {
+    program({.output = {{QByteArray(20000, 'x'), 0}}, .endsAtMs = 100000});
+    ports.pump.queue([&] { StdIO.Cancel(); });
+    EXPECT_EQ(StdIO.ExecuteCommand("tool").size(), 4096);
+}
+
 TEST_F(StdIOTest, CancelEndsTheReadingOfWhatWaitsWhenTheProgramHasGone) {
     program({.output = {{QByteArray(20000, 'x'), 0}}, .endsAtMs = 20});
     int reads = 0;

@@ -99,6 +99,8 @@ TEST(FrmSettings, StartsOnItsFirstPage) {
 TEST(FrmStatus, StartsWithNothingKnown) {
     const FrmStatus frmStatus;
     EXPECT_EQ(frmStatus.caption.get(), " Status");
+    EXPECT_EQ(frmStatus.width, 4935);
+    EXPECT_EQ(frmStatus.height, 3930);
     EXPECT_EQ(frmStatus.lblSpeed.caption.get(), "Speed: n/a");
     EXPECT_EQ(frmStatus.lblRemaining.caption.get(), "Time Remaining: n/a");
     EXPECT_EQ(frmStatus.lblFinish.caption.get(), "  When all jobs are complete:");

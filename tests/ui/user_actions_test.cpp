@@ -69,7 +69,7 @@ TEST_F(UserActions, TypingIntoAReadOnlyBoxDoesNothing) {
 TEST_F(UserActions, LineBreaksStayOutOfABoxOfOneLine) {
     type(form.txtSample, "10.0.0.1\r\n");
     EXPECT_EQ(form.txtSample.text.get(), "10.0.0.1");
-    type(form.txtSample, QString("\nCopper\r\nRun\u2028two\u2029three\v"));
+    type(form.txtSample, QString("\nCopper\r\nRun\u2028two\u2029three\u0085\v"));
     EXPECT_EQ(form.txtSample.text.get(), "Copper Run two three");
     type(form.txtSample, " Copper\tRun ");
     EXPECT_EQ(form.txtSample.text.get(), " Copper\tRun ");
