@@ -1,5 +1,7 @@
 #include "tour/user.h"
 
+#include "ui/qt/captions.h"
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QColorDialog>
@@ -19,6 +21,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTabBar>
+#include <QTest>
 #include <QTreeView>
 
 #include <thread>
@@ -40,6 +43,23 @@ QWidget* windowOf(const QString& form) {
 template <class Dialog>
 Dialog* openDialog() {
     return qobject_cast<Dialog*>(QApplication::activeModalWidget());
+}
+
+/// The window that a key goes to: the box that is up, else the one with the focus. Without a desktop nobody
+/// gives the focus back when a dialog closes, so the latest window takes it. Null for now, perhaps.
+QWidget* windowForKeys() {
+    if (QWidget* const box = QApplication::activeModalWidget())
+        return box->isActiveWindow() ? box : nullptr;
+    QWidget* const active = QApplication::activeWindow();
+    if (active && active->isVisible() && active->objectName().startsWith("frm"))
+        return active;
+    for (const char* form : {"frmSettings", "frmStatus", "frmMain"}) {
+        if (QWidget* const window = windowOf(form); window && window->isVisible()) {
+            window->activateWindow();
+            break;
+        }
+    }
+    return nullptr;
 }
 
 /// Of the open dialog for files.
@@ -108,9 +128,9 @@ QModelIndex rowWith(const QAbstractItemModel& model, const QString& text) {
 
 QString captionOf(const QWidget& widget) {
     if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
-        return button->text();
+        return view::readCaption(button->text());
     if (const auto* label = qobject_cast<const QLabel*>(&widget))
-        return label->text();
+        return label->buddy() ? view::readCaption(label->text()) : label->text();
     if (const auto* edit = qobject_cast<const QLineEdit*>(&widget))
         return edit->text();
     if (const auto* edit = qobject_cast<const QPlainTextEdit*>(&widget))
@@ -191,6 +211,30 @@ void User::type(const QString& name, const QString& text) {
 void User::pressKey(const QString& name, Qt::Key key) {
     auto* const target = look([&] { return &reachable(name); });
     act([target, key] { sendKey(*target, key, {}, key == Qt::Key_Return ? "\r" : QString()); });
+}
+
+void User::press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    QWidget* target = nullptr;
+    waitFor("a window that takes keys", [&] { return (target = windowForKeys()) != nullptr; });
+    act([target, key, modifiers] { QTest::keyClick(target->windowHandle(), key, modifiers); });
+}
+
+void User::pressAccessKey(const QString& name) {
+    const auto* const button = look([&] { return qobject_cast<QAbstractButton*>(&widget(name)); });
+    if (!button)
+        throw Stuck(name + " is no button.");
+    const QString keys = QKeySequence::mnemonic(look([&] { return button->text(); })).toString();
+    if (keys.isEmpty())
+        throw Stuck(name + " has no access key.");
+    press(static_cast<Qt::Key>(keys.back().unicode()), Qt::AltModifier);
+    // It is pressed before the eyes of the user, and clicked when it comes up again.
+    waitFor(name + " to come up", [button = QPointer(button)] { return !button || !button->isDown(); });
+}
+
+QString User::focused() {
+    const QWidget* window = nullptr;
+    waitFor("a window that takes keys", [&] { return (window = windowForKeys()) != nullptr; });
+    return look([&] { return window->focusWidget() ? window->focusWidget()->objectName() : QString(); });
 }
 
 void User::choose(const QString& comboBox, int index) {

@@ -35,6 +35,12 @@ public:
     /// Replaces what stands in a box.
     void type(const QString& name, const QString& text);
     void pressKey(const QString& name, Qt::Key key);
+    /// Presses a key wherever the focus is; the window's shortcuts have the first say, as on a desktop.
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
+    /// Presses Alt and the letter that is marked in the caption of a button.
+    void pressAccessKey(const QString& name);
+    /// The name of the control that has the focus.
+    QString focused();
     void choose(const QString& comboBox, int index);
     void selectTab(const QString& strip, int tab);
     void waitForFileDialog();

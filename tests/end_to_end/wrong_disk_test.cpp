@@ -66,6 +66,21 @@ TEST_F(WrongDisk, IsNotCopiedFrom) {
     expectNothingSent();
 }
 
+TEST_F(WrongDisk, IsNotInstalledOnAsItsFreeSpaceIsNotKnown) {
+    play([&](User& user) {
+        chooseOtherDisk(user);
+        user.click("optInstall");
+        pickImage(user, "game.iso");
+        user.waitUntilIdle();
+        for (const char* button : {"cmdInstall", "cmdAddGame"}) {
+            user.click(button);
+            expectRefused(user);
+        }
+        EXPECT_EQ(user.text("txtGameName"), "HARVEST");
+    });
+    expectNothingSent();
+}
+
 TEST_F(WrongDisk, IsTheRightOneAfterARefresh) {
     play([&](User& user) {
         chooseOtherDisk(user);

@@ -1,3 +1,4 @@
+#include "ui/qt/captions.h"
 #include "view/view_fixture.h"
 
 #include <QCheckBox>
@@ -72,8 +73,8 @@ TEST_F(BoundControls, FaultInAHandlerStaysInTheDispatcher) {
     EXPECT_TRUE(caught);
 }
 
-TEST_F(BoundControls, CaptionsShowOneAmpersandAndNoShortcut) {
-    EXPECT_EQ(widget<QPushButton>(form.cmdSettings).text(), "Settings && Tools");
+TEST_F(BoundControls, OfADoubledAmpersandCaptionsShowOne) {
+    EXPECT_EQ(readCaption(widget<QPushButton>(form.cmdSettings).text()), "Settings & Tools");
     form.lblDVD9.caption = "Dragons & Keys <b>";
     EXPECT_EQ(widget<QLabel>(form.lblDVD9).text(), "Dragons & Keys <b>");
     EXPECT_EQ(widget<QLabel>(form.lblDVD9).textFormat(), Qt::PlainText);

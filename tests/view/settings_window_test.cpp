@@ -1,3 +1,4 @@
+#include "ui/qt/captions.h"
 #include "view/view_fixture.h"
 
 #include <QAbstractButton>
@@ -85,7 +86,7 @@ TEST_F(SettingsWindow, AClickOnATabShowsItsPageAlone) {
 TEST_F(SettingsWindow, ATabChosenByTheProgramIsShown) {
     form.TabStrip.selectedTab = ui::FrmSettings::kToolsTab;
     EXPECT_EQ(widget<QTabBar>(form.TabStrip).currentIndex(), 2);
-    EXPECT_EQ(widget<QTabBar>(form.TabStrip).tabText(1), "GUI");
+    EXPECT_EQ(readCaption(widget<QTabBar>(form.TabStrip).tabText(1)), "GUI");
 }
 
 TEST_F(SettingsWindow, ATabThatIsOffStaysWhereItIs) {
@@ -138,7 +139,7 @@ TEST_F(SettingsWindow, EveryFieldAndButtonIsNamedForScreenReaders) {
     const auto labelOf = [&](const QWidget& face) -> QString {
         for (const QLabel* label : view.window()->findChildren<QLabel*>()) {
             if (label->buddy() == &face)
-                return label->text();
+                return readCaption(label->text());
         }
         return {};
     };

@@ -12,6 +12,12 @@ QString escapedCaption(const QString& caption) {
     return shownCaption(caption).replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
+QString readCaption(QString widgetText) {
+    for (qsizetype at = widgetText.indexOf(u'&'); at >= 0; at = widgetText.indexOf(u'&', at + 1))
+        widgetText.remove(at, 1); // of two the second stays
+    return widgetText;
+}
+
 QString plainToolTip(const QString& text) {
     return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/qt/form_view.h"
+#include "ui/qt/keyboard.h"
 
 namespace tarnwell::view {
 
@@ -23,6 +24,7 @@ private:
     public:
         explicit Window(Form& form) : FormView(form) {
             start(std::make_unique<Layout>(form, controls(), *this));
+            bindKeyboard(form, controls(), *this);
         }
     };
 

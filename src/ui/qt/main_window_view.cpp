@@ -1,11 +1,13 @@
 #include "ui/qt/main_window_view.h"
 
+#include "ui/qt/keyboard.h"
 #include "ui/qt/main_window_layout.h"
 
 namespace tarnwell::view {
 
 MainWindowView::MainWindowView(ui::FrmMain& form) : FormView(form) {
     start(std::make_unique<MainWindowLayout>(form, controls(), *this));
+    bindKeyboard(form, controls(), *this);
 }
 
 } // namespace tarnwell::view
