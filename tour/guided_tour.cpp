@@ -109,7 +109,7 @@ void GuidedTour::completeInstall() {
     showBothWindows();
     user_.click("optBrowse");
     waitForPercent(66);
-    tell("two-thirds", "Two thirds; meanwhile the main window can be looked at, but starts nothing.");
+    tell("installing", "Two thirds; meanwhile the main window can be looked at, but starts nothing.");
     user_.waitUntilIdle();
 }
 

@@ -19,6 +19,19 @@ void tellErrorsOnly(QtMsgType type, const QMessageLogContext&, const QString& te
         std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData());
 }
 
+/// Those of steps that the tour no longer has would stay for ever.
+void removeOldPictures(QDir pictures) {
+    for (const QString& picture : pictures.entryList({"[0-9][0-9]-*.png"}))
+        pictures.remove(picture);
+}
+
+/// Pictures of the same windows are the same on every machine.
+void lookTheSameEverywhere() {
+    QApplication::setCursorFlashTime(0);
+    if (QGuiApplication::platformName() == "offscreen")
+        QApplication::setFont(QFont("DejaVu Sans", 9));
+}
+
 QString play(const QDir& pictures) {
     try {
         const Workbench bench;
@@ -39,12 +52,14 @@ int main(int argc, char** argv) {
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication application(argc, argv);
     view::useOwnFont();
+    lookTheSameEverywhere();
     if (argc != 2) {
         std::fputs("usage: tarnwell-tour PICTURE_FOLDER\n", stderr);
         return 2;
     }
     const QDir pictures(QString::fromLocal8Bit(argv[1]));
     pictures.mkpath(".");
+    removeOldPictures(pictures);
     const QString trouble = play(pictures);
     if (!trouble.isEmpty()) {
         std::fprintf(stderr, "The tour has ended early: %s\n", trouble.toLocal8Bit().constData());

@@ -1,5 +1,8 @@
 #include "tour/screen_picture.h"
 
+#include "tour/kept_pictures.h"
+#include "tour/varying_places.h"
+
 #include <QApplication>
 #include <QPainter>
 #include <QWidget>
@@ -71,8 +74,14 @@ QImage screenPicture() {
     picture.fill(kDesktop);
     QPainter painter(&picture);
     painter.translate(-all.topLeft());
-    for (QWidget* window : windows)
+    QList<QRect> varying;
+    for (QWidget* window : windows) {
         paintWindow(painter, *window);
+        for (const QRect& place : varyingPlaces(*window))
+            varying += place.translated(window->geometry().topLeft() - all.topLeft());
+    }
+    painter.end();
+    noteVaryingPlaces(picture, varying);
     return picture;
 }
 
