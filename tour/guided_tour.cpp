@@ -1,6 +1,8 @@
 #include "tour/guided_tour.h"
 
+#include "tour/kept_pictures.h"
 #include "tour/screen_picture.h"
+#include "ui/version.h"
 
 #include <cstdio>
 #include <thread>
@@ -18,6 +20,10 @@ constexpr int kChessDrive = 4;
 
 /// The dialog for files sorts its list some time after it has opened.
 constexpr std::chrono::milliseconds kDialogSettles{400};
+
+/// A list that has just been filled or shown takes its final shape a moment later.
+constexpr std::chrono::milliseconds kBetweenGlances{30};
+constexpr int kMostGlances = 20;
 
 void expect(bool asExpected, const QString& what) {
     if (!asExpected)
@@ -225,7 +231,7 @@ void GuidedTour::lookAtAbout() {
     user_.click("cmdAbout");
     user_.waitFor("the about window", [this] { return user_.windowUp("frmAbout"); });
     user_.waitUntilIdle();
-    expect(user_.text("frmAbout.Label2") == "v1.5", "the version of the program");
+    expect(user_.text("frmAbout.Label2") == "v" TARNWELL_VERSION, "the version of the program");
     tell("about", "About: the version, links to web pages, and thanks that have typed themselves.");
     user_.closeWindow("frmAbout");
     user_.waitFor("the about window to close", [this] { return !user_.windowUp("frmAbout"); });
@@ -283,10 +289,18 @@ void GuidedTour::waitForPercent(int percent) {
 void GuidedTour::tell(const QString& picture, const QString& words) {
     const QString file =
         pictures_.filePath(QStringLiteral("%1-%2.png").arg(++step_, 2, 10, QChar('0')).arg(picture));
-    const QImage seen = user_.look([] { return screenPicture(); });
-    expect(seen.save(file), "to be able to write " + file);
+    expect(calmPicture().save(file), "to be able to write " + file);
     std::printf("%2d  %s\n", step_, words.toLocal8Bit().constData());
     std::fflush(stdout);
+}
+
+QImage GuidedTour::calmPicture() {
+    QImage before, seen = user_.look([] { return screenPicture(); });
+    for (int glance = 1; glance < kMostGlances && !difference(seen, before).isEmpty(); ++glance) {
+        std::this_thread::sleep_for(kBetweenGlances);
+        before = std::exchange(seen, user_.look([] { return screenPicture(); }));
+    }
+    return seen;
 }
 
 } // namespace tarnwell::tour

@@ -4,6 +4,7 @@
 #include "tour/workbench.h"
 
 #include <QDir>
+#include <QImage>
 
 namespace tarnwell::tour {
 
@@ -44,6 +45,8 @@ private:
     void showWindows();
     void waitForPercent(int percent);
     void tell(const QString& picture, const QString& words);
+    /// Of windows that look the same twice, but for what varies while work runs.
+    QImage calmPicture();
 
     User& user_;
     const Workbench& bench_;

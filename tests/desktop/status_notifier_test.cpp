@@ -1,5 +1,6 @@
 #include "desktop/desktop_test.h"
 #include "desktop/status_notifier_host.h"
+#include "ui/version.h"
 
 namespace tarnwell::test {
 
@@ -38,7 +39,7 @@ TEST_F(OnStatusNotifierHost, TheIconIsThereInSeveralSizesWithTheTitleAsItsTip) {
     EXPECT_EQ(tell("tray"), "there");
     EXPECT_EQ(host.items.size(), 1);
     EXPECT_FALSE(host.pictures().isEmpty());
-    EXPECT_EQ(host.tip(), " Tarnwell GUI v1.5 by mirelane");
+    EXPECT_EQ(host.tip(), " Tarnwell GUI v" TARNWELL_VERSION " by mirelane");
 }
 
 TEST_F(OnStatusNotifierHost, TheTipShowsAllItsLines) {

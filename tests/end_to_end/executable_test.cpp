@@ -1,4 +1,5 @@
 #include "end_to_end/whole_program.h"
+#include "ui/version.h"
 
 #include <QProcess>
 #include <QProcessEnvironment>
@@ -49,7 +50,7 @@ TEST(Executable, OpensItsWindowAndEndsWhenTheSystemAsksItTo) {
     program.setProcessEnvironment(environment);
     program.start(copy);
     ASSERT_TRUE(program.waitForStarted());
-    EXPECT_TRUE(comesTrue([&] { return display.shows("Tarnwell GUI v1.5"); }));
+    EXPECT_TRUE(comesTrue([&] { return display.shows("Tarnwell GUI v" TARNWELL_VERSION); }));
     EXPECT_TRUE(QFile::exists(bench.path("config.cfg")));
     program.terminate();
     EXPECT_TRUE(program.waitForFinished()) << "the program did not end";

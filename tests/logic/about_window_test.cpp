@@ -1,5 +1,6 @@
 #include "services/about_window.h"
 #include "support/program_test.h"
+#include "ui/version.h"
 
 using namespace tarnwell;
 using namespace tarnwell::test;
@@ -28,7 +29,7 @@ TEST_F(About, OpensBeforeAllOtherWindowsWithTheVersionOfTheProgram) {
     ui::click(frmMain.cmdAbout);
     EXPECT_TRUE(window.shown());
     EXPECT_TRUE(window.topmost) << "whatever the settings say of the other windows";
-    EXPECT_EQ(window.Label2.caption.get(), "v1.5");
+    EXPECT_EQ(window.Label2.caption.get(), "v" TARNWELL_VERSION);
 }
 
 TEST_F(About, ThanksTypeThemselvesLetterByLetter) {

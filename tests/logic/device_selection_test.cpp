@@ -1,4 +1,5 @@
 #include "support/program_test.h"
+#include "ui/version.h"
 
 namespace tarnwell::test {
 
@@ -259,7 +260,7 @@ TEST_F(DeviceSelection, RefreshWithoutTheToolSaysSo) {
     removeTool();
     ui::click(frmMain.cmdAttach);
     EXPECT_EQ(ports.dialogs.messageTexts(), QStringList(kToolMissing));
-    EXPECT_EQ(ports.dialogs.messages[0].title, " Tarnwell GUI v1.5 by mirelane");
+    EXPECT_EQ(ports.dialogs.messages[0].title, " Tarnwell GUI v" TARNWELL_VERSION " by mirelane");
 }
 
 TEST_F(DeviceSelection, RefreshWithoutADiskSaysSo) {

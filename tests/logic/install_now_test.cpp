@@ -1,5 +1,6 @@
 #include "base/fault.h"
 #include "support/program_test.h"
+#include "ui/version.h"
 #include "workflows/free_space.h"
 
 #include <limits>
@@ -88,7 +89,7 @@ TEST_F(InstallNow, TheStatusWindowFollowsTheJob) {
     EXPECT_FALSE(frmStatus->shown());
     EXPECT_FALSE(frmMain.shown()) << "only the user brings it back";
     EXPECT_TRUE(frmMain.cmdAttach.enabled);
-    EXPECT_EQ(ports.tray.tip(), " Tarnwell GUI v1.5 by mirelane");
+    EXPECT_EQ(ports.tray.tip(), " Tarnwell GUI v" TARNWELL_VERSION " by mirelane");
     EXPECT_FALSE(program.shared().blnInstallRunning);
 }
 
@@ -282,7 +283,7 @@ TEST_F(InstallNow, CancelInterruptsTheToolAndSkipsTheCompletionActions) {
     ports.pump.after(2000, [&] {
         EXPECT_TRUE(ui::click(frmStatus->cmdStop));
         cancelled = ports.clock.now;
-        EXPECT_EQ(ports.tray.tip(), " Tarnwell GUI v1.5 by mirelane");
+        EXPECT_EQ(ports.tray.tip(), " Tarnwell GUI v" TARNWELL_VERSION " by mirelane");
     });
     ui::click(frmMain.cmdInstall);
     EXPECT_GE(ports.clock.now - cancelled, 3000) << "the tool was waited for";

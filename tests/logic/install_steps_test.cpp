@@ -1,11 +1,12 @@
 #include "support/program_test.h"
+#include "ui/version.h"
 
 /// The order in which an install that is not queued goes about its work.
 namespace tarnwell::test {
 
 namespace {
 
-const QString kTitle = " Tarnwell GUI v1.5 by mirelane";
+const QString kTitle = " Tarnwell GUI v" TARNWELL_VERSION " by mirelane";
 
 /// A game is ready to be installed onto the console; the windows write into the journal, too.
 struct InstallSteps : ProgramTest {

@@ -1,4 +1,5 @@
 #include "logic/queue_test.h"
+#include "ui/version.h"
 
 namespace tarnwell::test {
 
@@ -17,7 +18,7 @@ TEST_F(QueueCancel, CancelInTheFirstJobAbortsAll) {
     EXPECT_EQ(jobCommands().size(), 1);
     EXPECT_FALSE(program.shared().blnQueueRunning);
     EXPECT_EQ(refreshes(), 2) << "the list is refreshed all the same";
-    EXPECT_EQ(ports.tray.tip(), " Tarnwell GUI v1.5 by mirelane");
+    EXPECT_EQ(ports.tray.tip(), " Tarnwell GUI v" TARNWELL_VERSION " by mirelane");
 }
 
 TEST_F(QueueCancel, CancelInTheSecondOfFourAbortsAllBelowAlsoWhatWasComplete) {

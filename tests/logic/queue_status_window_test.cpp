@@ -1,4 +1,5 @@
 #include "logic/queue_test.h"
+#include "ui/version.h"
 
 namespace tarnwell::test {
 
@@ -51,7 +52,7 @@ TEST_F(QueueStatusWindow, TheStatusWindowFollowsTheJobs) {
     EXPECT_FALSE(frmStatus->shown());
     EXPECT_FALSE(frmMain.shown()) << "only the user brings it back";
     EXPECT_TRUE(frmMain.cmdStart.enabled);
-    EXPECT_EQ(ports.tray.tip(), " Tarnwell GUI v1.5 by mirelane");
+    EXPECT_EQ(ports.tray.tip(), " Tarnwell GUI v" TARNWELL_VERSION " by mirelane");
     EXPECT_EQ(balloons(), QStringList());
 }
 

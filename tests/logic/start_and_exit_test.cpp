@@ -1,5 +1,6 @@
 #include "base/fault.h"
 #include "support/program_test.h"
+#include "ui/version.h"
 
 #include <QDir>
 
@@ -133,7 +134,7 @@ TEST_F(StartUp, ABoxOfTheStartCarriesTheTitle) {
     ports.dialogs.chooseFolderAnswers.push_back(ports.folders.folder);
     start();
     ASSERT_EQ(ports.dialogs.messages.size(), 1u) << "the user is asked where the tool's settings are";
-    EXPECT_EQ(ports.dialogs.messages[0].title, " Tarnwell GUI v1.5 by mirelane");
+    EXPECT_EQ(ports.dialogs.messages[0].title, " Tarnwell GUI v" TARNWELL_VERSION " by mirelane");
 }
 
 TEST_F(StartUp, ATallWindowHangsWhereAShortOneWouldStandInTheMiddle) {
@@ -171,7 +172,7 @@ TEST_F(StartUp, SetsTheWidthsOfTheColumns) {
 TEST_F(StartUp, PutsTheTitleIntoTheTray) {
     start();
     EXPECT_TRUE(ports.tray.shown);
-    EXPECT_EQ(ports.tray.tip(), " Tarnwell GUI v1.5 by mirelane");
+    EXPECT_EQ(ports.tray.tip(), " Tarnwell GUI v" TARNWELL_VERSION " by mirelane");
     EXPECT_EQ(frmMain.picDiskSpace.drawing.get().text, "0%");
 }
 

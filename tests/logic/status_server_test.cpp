@@ -1,4 +1,5 @@
 #include "logic/queue_test.h"
+#include "ui/version.h"
 
 namespace tarnwell::test {
 namespace {
@@ -43,7 +44,7 @@ struct StatusServer : QueueTest {
         ui::click(frmMain.optJobQueue);
     }
 
-    static inline const QString kTitle = " Tarnwell GUI v1.5 by mirelane";
+    static inline const QString kTitle = " Tarnwell GUI v" TARNWELL_VERSION " by mirelane";
     ui::LoadedOnTouch<ui::FrmSettings>& frmSettings = program.shared().frmSettings;
 };
 

@@ -3,6 +3,7 @@
 #include "ui/frm_main.h"
 #include "ui/frm_settings.h"
 #include "ui/frm_status.h"
+#include "ui/version.h"
 
 #include <gtest/gtest.h>
 
@@ -47,7 +48,7 @@ TEST(FrmMain, StartsOnTheInstallPageInNetworkMode) {
 }
 
 TEST(FrmMain, CarriesItsCaption) {
-    EXPECT_EQ(FrmMain().caption.get(), " Tarnwell GUI v1.5 by mirelane");
+    EXPECT_EQ(FrmMain().caption.get(), " Tarnwell GUI v" TARNWELL_VERSION " by mirelane");
 }
 
 TEST(FrmMain, HasEveryMenuWithItsEntries) {

@@ -1,5 +1,6 @@
 #include "ui/qt/application_icon.h"
 #include "ui/qt/colors.h"
+#include "ui/version.h"
 #include "view/view_fixture.h"
 
 #include <QGroupBox>
@@ -11,7 +12,7 @@ namespace tarnwell::view {
 class Window : public MainWindow {};
 
 TEST_F(Window, TakesCaptionAndVisibilityFromTheForm) {
-    EXPECT_EQ(window.windowTitle(), " Tarnwell GUI v1.5 by mirelane");
+    EXPECT_EQ(window.windowTitle(), " Tarnwell GUI v" TARNWELL_VERSION " by mirelane");
     EXPECT_TRUE(window.isVisible());
     form.hide();
     EXPECT_FALSE(window.isVisible());
