@@ -103,7 +103,8 @@ QString freshFile(const QDir& folder, const QString& name) {
 }
 
 QImage freshPicture(const QDir& folder, const QString& name) {
-    return QImage(freshFile(folder, name));
+    const QString file = freshFile(folder, name);
+    return file.isEmpty() ? QImage() : QImage(file);
 }
 
 } // namespace tarnwell::tour

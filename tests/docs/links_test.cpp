@@ -2,6 +2,7 @@
 #include "support/gtest_qt.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 #include <gtest/gtest.h>
 
@@ -9,37 +10,38 @@ namespace tarnwell::test {
 
 namespace {
 
-struct Page {
-    QString folder, name;
-};
+const QStringList kPages{"README.md", "docs/guide.md"};
 
-const Page kReadme{"", "README.md"}, kGuide{"docs/", "guide.md"};
-
-QString textOf(const Page& page) {
-    return projectFile(page.folder + page.name);
+/// From the project's folder.
+QString pathOf(const QString& target, const QString& page) {
+    const QString file = target.section('#', 0, 0);
+    return file.isEmpty() ? page : QDir::cleanPath(QFileInfo(page).path() + '/' + file);
 }
 
-bool leadsSomewhere(const QString& target, const Page& page, const QStringList& headings) {
-    if (target.startsWith('#'))
-        return headings.contains(target);
-    return target.contains("://") || QFile::exists(TARNWELL_SOURCE "/" + page.folder + target);
+bool leadsSomewhere(const QString& target, const QString& page) {
+    if (target.contains("://"))
+        return true;
+    const QString path = pathOf(target, page), heading = target.section('#', 1);
+    return QFile::exists(TARNWELL_SOURCE "/" + path) &&
+           (heading.isEmpty() || anchors(projectFile(path)).contains('#' + heading));
 }
 
 } // namespace
 
 TEST(Links, LeadToFilesAndHeadings) {
-    for (const Page& page : {kReadme, kGuide}) {
-        const QStringList headings = anchors(textOf(page));
-        for (const QString& target : linkTargets(textOf(page)))
-            EXPECT_TRUE(leadsSomewhere(target, page, headings)) << target.toStdString();
+    for (const QString& page : kPages) {
+        const QStringList targets = linkTargets(projectFile(page));
+        EXPECT_FALSE(targets.isEmpty());
+        for (const QString& target : targets)
+            EXPECT_TRUE(leadsSomewhere(target, page)) << page.toStdString() << ": " << target.toStdString();
     }
 }
 
 TEST(Links, EveryPictureIsShown) {
     QStringList shown;
-    for (const Page& page : {kReadme, kGuide}) {
-        for (const QString& target : linkTargets(textOf(page)))
-            shown += QDir::cleanPath(page.folder + target);
+    for (const QString& page : kPages) {
+        for (const QString& target : linkTargets(projectFile(page)))
+            shown += pathOf(target, page);
     }
     const QStringList pictures = QDir(TARNWELL_SOURCE "/docs/pictures").entryList({"*.png"});
     EXPECT_FALSE(pictures.isEmpty());

@@ -73,7 +73,8 @@ private:
 
     bool skip(const QRegularExpression& token) {
         const auto match = token.match(source_, at_, QRegularExpression::NormalMatch,
-                                       QRegularExpression::AnchorAtOffsetMatchOption);
+                                       QRegularExpression::AnchorAtOffsetMatchOption |
+                                           QRegularExpression::DontCheckSubjectStringMatchOption);
         if (!match.hasMatch())
             return false;
         if (isPartOfName(match.captured().front()))
