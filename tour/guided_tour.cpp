@@ -296,6 +296,8 @@ void GuidedTour::tell(const QString& picture, const QString& words) {
 
 QImage GuidedTour::calmPicture() {
     QImage before, seen = user_.look([] { return screenPicture(); });
+    if (user_.windowUp("frmStatus"))
+        return seen; // work does not wait
     for (int glance = 1; glance < kMostGlances && !difference(seen, before).isEmpty(); ++glance) {
         std::this_thread::sleep_for(kBetweenGlances);
         before = std::exchange(seen, user_.look([] { return screenPicture(); }));

@@ -45,7 +45,7 @@ private:
     void showWindows();
     void waitForPercent(int percent);
     void tell(const QString& picture, const QString& words);
-    /// Of windows that look the same twice, but for what varies while work runs.
+    /// Of windows that look the same twice, unless work is under way in them.
     QImage calmPicture();
 
     User& user_;

@@ -43,8 +43,8 @@ QImage withoutPlaces(const QImage& picture, const QList<QRect>& places) {
 }
 
 bool differ(QRgb a, QRgb b) {
-    return std::abs(qRed(a) - qRed(b)) > kShade || std::abs(qGreen(a) - qGreen(b)) > kShade ||
-           std::abs(qBlue(a) - qBlue(b)) > kShade;
+    return a != b && (std::abs(qRed(a) - qRed(b)) > kShade || std::abs(qGreen(a) - qGreen(b)) > kShade ||
+                      std::abs(qBlue(a) - qBlue(b)) > kShade);
 }
 
 /// The corner round all pixels that differ, as far as there are more than strays.
@@ -52,8 +52,10 @@ QRect differingPart(const QImage& kept, const QImage& fresh) {
     QRect part;
     int pixels = 0;
     for (int y = 0; y < kept.height(); ++y) {
+        const auto* const before = reinterpret_cast<const QRgb*>(kept.constScanLine(y));
+        const auto* const now = reinterpret_cast<const QRgb*>(fresh.constScanLine(y));
         for (int x = 0; x < kept.width(); ++x) {
-            if (!differ(kept.pixel(x, y), fresh.pixel(x, y)))
+            if (!differ(before[x], now[x]))
                 continue;
             part |= QRect(x, y, 1, 1);
             ++pixels;
