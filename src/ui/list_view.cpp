@@ -27,6 +27,7 @@ void ListView::remove(int index) {
 }
 
 void ListView::clear() {
+    clearing.emitNow();
     rows_.clear();
     selectedItem = -1;
     cleared.emitNow();

@@ -40,6 +40,7 @@ public:
     /// What a view follows. Rows are only ever appended at the end.
     Signal<int> rowAppended, rowRemoved, rowChanged;
     Signal<> cleared, selectionChanged;
+    Signal<> clearing; ///< the rows are about to go, all of them
 
     /// The user has edited the label of `row` to `text`; a handler that sets `cancel` keeps the old label.
     Event<bool& /*cancel*/, int /*row*/, const QString& /*text*/> AfterLabelEdit;

@@ -9,6 +9,9 @@ namespace tarnwell::view {
 
 namespace {
 
+/// Of the text that says what an empty control is filled by.
+constexpr float kHintOpacity = 0.6F;
+
 QPalette paletteOf(const ui::Control& control) {
     QPalette palette;
     if (const auto& fore = control.foreColor.get()) {
@@ -17,6 +20,9 @@ QPalette paletteOf(const ui::Control& control) {
             for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
                 palette.setColor(group, role, toColor(*fore));
         }
+        QColor hint = toColor(*fore);
+        hint.setAlphaF(kHintOpacity);
+        palette.setColor(QPalette::PlaceholderText, hint);
     }
     if (const auto& back = control.backColor.get()) {
         for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button})

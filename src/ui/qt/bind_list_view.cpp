@@ -1,8 +1,11 @@
 #include "ui/qt/bind_controls.h"
 #include "ui/qt/captions.h"
+#include "ui/qt/chosen_labels.h"
 #include "ui/qt/desktop_theme.h"
 #include "ui/qt/event_watcher.h"
+#include "ui/qt/list_columns.h"
 #include "ui/qt/list_rows_model.h"
+#include "ui/qt/rows_view.h"
 #include "ui/user_actions.h"
 
 #include <QGuiApplication>
@@ -14,11 +17,14 @@
 #include <QStyledItemDelegate>
 #include <QTimer>
 #include <QToolTip>
-#include <QTreeView>
 
 namespace tarnwell::view {
 
 namespace {
+
+const ListRowsModel& rowsOf(const QModelIndex& index) {
+    return static_cast<const ListRowsModel&>(*index.model());
+}
 
 /// Hands an edited label to the program instead of writing it into the rows. The program's answer may take as
 /// long as a run of the tool, so it is asked after the editor has gone.
@@ -31,6 +37,13 @@ public:
         constexpr char16_t kFirstStrongIsolate = 0x2068;
         const QString text = value.toString();
         return QGuiApplication::isRightToLeft() ? QChar(kFirstStrongIsolate) + text : text;
+    }
+
+    /// Of a path the middle says least.
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const bool isPath = option->text.contains(u'/') || option->text.contains(u'\\');
+        option->textElideMode = isPath ? Qt::ElideMiddle : Qt::ElideRight;
     }
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
@@ -53,9 +66,9 @@ public:
             return;
         QMetaObject::invokeMethod(
             parent(),
-            [list = &list_, row = QPersistentModelIndex(index), text = edit->text()] {
-                if (row.isValid())
-                    ui::editLabel(*list, row.row(), text);
+            [list = &list_, label = QPersistentModelIndex(index), text = edit->text()] {
+                if (label.isValid())
+                    ui::editLabel(*list, rowsOf(label).rowAt(label), text);
             },
             Qt::QueuedConnection);
     }
@@ -64,32 +77,22 @@ private:
     ui::ListView& list_;
 };
 
-/// A click on the label of one of several selected rows leaves that one selected, as a click on its other
-/// columns does; only a row that was selected alone is edited by a click.
-class RowsView final : public QTreeView {
-public:
-    using QTreeView::QTreeView;
-
-protected:
-    using QTreeView::edit;
-    bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override {
-        const bool oneOfSeveral = trigger == SelectedClicked && selectionModel()->selectedRows().size() > 1;
-        return !oneOfSeveral && QTreeView::edit(index, trigger, event);
-    }
-};
-
 /// Keeps a Qt view and a list of the model together. The model's changes reach the view in one go when the
-/// program next serves its events.
+/// program next serves its events. What the view tells of its places is about the list's rows.
 class ListBinder final : public QObject {
 public:
-    ListBinder(Binding& binding, ui::ListView& list, QTreeView& view)
+    ListBinder(Binding& binding, ui::ListView& list, RowsView& view)
         : QObject(&view), binding_(binding), list_(list), view_(view), rows_(new ListRowsModel(list, &view)) {
         view_.setModel(rows_);
         catchUp_.setSingleShot(true);
         catchUp_.callOnTimeout(this, [this] { catchUp(); });
+        binding_.listen(list_.columns.changed, *this, [this] { rows_->announceColumns(); });
+        columns_ = view.columns = new ListColumns(binding, list, view);
+        if (list.editableLabels)
+            chosen_ = new ChosenLabels(binding, list, *this);
         followRows();
         followSelection();
-        followColumns();
+        followHeadings();
         catchUp();
     }
 
@@ -100,7 +103,10 @@ private:
             rows_->announceRemoved(row);
             catchUpSoon();
         });
-        binding_.listen(list_.rowChanged, *this, [this](int row) { rows_->announceChanged(row); });
+        binding_.listen(list_.rowChanged, *this, [this](int row) {
+            rows_->announceChanged(row);
+            catchUpSoon();
+        });
         binding_.listen(list_.cleared, *this, [this] { rows_->announceCleared(); });
     }
 
@@ -126,46 +132,21 @@ private:
         catchUpBefore(QEvent::KeyPress, view_);
     }
 
+    void followHeadings() {
+        connect(view_.header(), &QHeaderView::sortIndicatorChanged, this,
+                [this](int column, Qt::SortOrder order) {
+                    catchUp();
+                    arrange([&] { rows_->sort(column, order); });
+                    view_.scrollTo(view_.currentIndex());
+                });
+    }
+
     void catchUpBefore(QEvent::Type input, QWidget& widget) {
         new EventWatcher(widget, [this, input](QEvent& event) {
             if (event.type() == input && catchUp_.isActive())
                 catchUp();
             return false;
         });
-    }
-
-    void followColumns() {
-        const auto show = [this] {
-            rows_->announceColumns();
-            showColumnWidths();
-        };
-        binding_.follow(list_.columns.changed, *this, show);
-        binding_.listen(list_.font.changed, *this, [this] { showColumnWidths(); });
-        binding_.listen(binding_.scaleChanged, *this, [this] { showColumnWidths(); });
-        new EventWatcher(view_, [this](QEvent& event) {
-            if (event.type() == QEvent::Show)
-                showColumnWidths();
-            return false;
-        });
-    }
-
-    /// Every column gets its width, but never cuts its heading; the widest takes what the list has to spare.
-    void showColumnWidths() {
-        QHeaderView* header = view_.header();
-        const auto& columns = list_.columns.get();
-        // Headings take long to measure.
-        if (columns.empty() || !view_.isVisible())
-            return;
-        const auto widest = std::max_element(columns.begin(), columns.end(),
-                                             [](const auto& a, const auto& b) { return a.width < b.width; });
-        for (int i = 0; i < std::ssize(columns); ++i) {
-            const ui::Column& column = columns[static_cast<std::size_t>(i)];
-            const bool stretches = &column == &*widest && column.width > 0;
-            header->setSectionResizeMode(i, stretches ? QHeaderView::Stretch : QHeaderView::Interactive);
-            if (column.width > 0 && !stretches)
-                header->resizeSection(
-                    i, std::max(binding_.scale().pixels(column.width), header->sectionSizeHint(i)));
-        }
     }
 
     void catchUpSoon() {
@@ -177,23 +158,38 @@ private:
         catchUp_.stop();
         const Binding::Showing guard(binding_);
         rows_->announceAppended();
+        if (chosen_)
+            chosen_->chooseAgain();
+        if (rows_->needsSorting())
+            arrange([this] { rows_->sortAgain(); });
+        showSelection();
+        columns_->followRows();
+    }
+
+    /// Qt would carry each cell of each selected row over by itself, which takes long for many.
+    template <class Sort>
+    void arrange(Sort sort) {
+        const Binding::Showing guard(binding_);
+        view_.selectionModel()->clearSelection();
+        sort();
         showSelection();
     }
 
     void showSelection() {
         QItemSelectionModel* selection = view_.selectionModel();
-        QItemSelection rows;
-        for (int row = 0; row < rows_->rowCount(); ++row) {
-            const int first = row;
-            while (row < rows_->rowCount() && list_.row(row).selected)
-                ++row;
-            if (row > first)
-                rows.select(rows_->index(first, 0), rows_->index(row - 1, rows_->columnCount() - 1));
+        const auto isSelected = [this](int place) { return list_.row(rows_->rowAt(place)).selected; };
+        QItemSelection places;
+        for (int place = 0; place < rows_->rowCount(); ++place) {
+            const int first = place;
+            while (place < rows_->rowCount() && isSelected(place))
+                ++place;
+            if (place > first)
+                places.select(rows_->index(first, 0), rows_->index(place - 1, rows_->columnCount() - 1));
         }
-        if (selection->selection() != rows)
-            selection->select(rows, QItemSelectionModel::ClearAndSelect);
+        if (selection->selection() != places)
+            selection->select(places, QItemSelectionModel::ClearAndSelect);
         // A list that gets the focus gives it to its first row by itself.
-        const QModelIndex current = rows_->index(list_.selectedItem, 0);
+        const QModelIndex current = rows_->index(rows_->placeOf(list_.selectedItem), 0);
         if (current.isValid() && view_.currentIndex().row() != current.row())
             selection->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
     }
@@ -202,19 +198,21 @@ private:
         // The list tells of each row; these are the view's own news.
         const Binding::Showing guard(binding_);
         for (const QItemSelectionRange& range : ranges) {
-            for (int row = range.top(); row <= range.bottom() && row < list_.count(); ++row)
-                list_.setSelected(row, selected);
+            for (int place = range.top(); place <= range.bottom() && place < rows_->rowCount(); ++place)
+                list_.setSelected(rows_->rowAt(place), selected);
         }
     }
 
     /// The focus may have come to a row while the view was being told about the model, as when the page with
     /// the list opens; so it is looked at whenever the user selects.
-    void takeFocus() { list_.selectedItem = view_.currentIndex().row(); }
+    void takeFocus() { list_.selectedItem = rows_->rowAt(view_.currentIndex()); }
 
     Binding& binding_;
     ui::ListView& list_;
-    QTreeView& view_;
+    RowsView& view_;
     ListRowsModel* rows_;
+    ListColumns* columns_;
+    ChosenLabels* chosen_ = nullptr;
     QTimer catchUp_;
 };
 
@@ -237,13 +235,6 @@ void reportPresses(ui::ListView& list, QTreeView& view) {
 
 QWidget* bindListView(Binding& binding, ui::ListView& list, QWidget* parent) {
     auto* view = new RowsView(parent);
-    view->setRootIsDecorated(false);
-    view->setItemsExpandable(false);
-    view->setUniformRowHeights(true);
-    view->setAllColumnsShowFocus(true);
-    view->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-    view->header()->setStretchLastSection(false);
-    view->header()->setSectionsMovable(false);
     if (drawnByTheme(*view->header()))
         keepThemeColors(binding, *view->header());
     view->setSelectionMode(list.multiSelect ? QAbstractItemView::ExtendedSelection

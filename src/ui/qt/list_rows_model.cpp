@@ -1,5 +1,7 @@
 #include "ui/qt/list_rows_model.h"
 
+#include "ui/row_order.h"
+
 namespace tarnwell::view {
 
 ListRowsModel::ListRowsModel(const ui::ListView& list, QObject* parent)
@@ -16,10 +18,10 @@ int ListRowsModel::columnCount(const QModelIndex& parent) const {
 
 QVariant ListRowsModel::data(const QModelIndex& index, int role) const {
     const bool isText = role == Qt::DisplayRole || role == Qt::EditRole;
-    if (!isText || !index.isValid() || index.row() >= list_.count())
+    const int row = rowAt(index);
+    if (!isText || row < 0 || row >= list_.count())
         return {};
-    const ui::ListView::Row& row = list_.row(index.row());
-    return index.column() == 0 ? row.text : row.subItems.value(index.column() - 1);
+    return ui::cell(list_.row(row), index.column());
 }
 
 QVariant ListRowsModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -39,31 +41,93 @@ Qt::ItemFlags ListRowsModel::flags(const QModelIndex& index) const {
     return flags;
 }
 
+void ListRowsModel::sort(int column, Qt::SortOrder order) {
+    sortColumn_ = column;
+    sortOrder_ = order;
+    sortAgain();
+}
+
+void ListRowsModel::sortAgain() {
+    needsSorting_ = false;
+    arrange(sortColumn_ < 0 ? std::vector<int>()
+                            : ui::sortedRows(list_, rows_, sortColumn_, sortOrder_ == Qt::DescendingOrder));
+}
+
+void ListRowsModel::arrange(std::vector<int> order) {
+    Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);
+    const QModelIndexList before = persistentIndexList();
+    std::vector<int> rows;
+    rows.reserve(static_cast<std::size_t>(before.size()));
+    for (const QModelIndex& index : before)
+        rows.push_back(rowAt(index));
+    rowAt_ = std::move(order);
+    placeOf_.resize(rowAt_.size());
+    for (int place = 0; place < std::ssize(rowAt_); ++place)
+        placeOf_[static_cast<std::size_t>(rowAt_[static_cast<std::size_t>(place)])] = place;
+    QModelIndexList after;
+    after.reserve(before.size());
+    for (qsizetype i = 0; i < before.size(); ++i)
+        after.append(index(placeOf(rows[static_cast<std::size_t>(i)]), before[i].column()));
+    changePersistentIndexList(before, after);
+    Q_EMIT layoutChanged({}, VerticalSortHint);
+}
+
+int ListRowsModel::rowAt(int place) const {
+    if (place < 0 || place >= rows_)
+        return -1;
+    return sorted() ? rowAt_.at(static_cast<std::size_t>(place)) : place;
+}
+
+int ListRowsModel::placeOf(int row) const {
+    if (row < 0 || row >= rows_)
+        return -1;
+    return sorted() ? placeOf_.at(static_cast<std::size_t>(row)) : row;
+}
+
 void ListRowsModel::announceAppended() {
     if (list_.count() <= rows_)
         return;
     beginInsertRows({}, rows_, list_.count() - 1);
+    for (int row = rows_; sortColumn_ >= 0 && row < list_.count(); ++row) {
+        rowAt_.push_back(row);
+        placeOf_.push_back(row);
+    }
     rows_ = list_.count();
+    needsSorting_ = sortColumn_ >= 0;
     endInsertRows();
 }
 
 void ListRowsModel::announceRemoved(int row) {
     if (row >= rows_)
         return;
-    beginRemoveRows({}, row, row);
+    const int place = placeOf(row);
+    beginRemoveRows({}, place, place);
     --rows_;
+    if (sorted()) {
+        rowAt_.erase(rowAt_.begin() + place);
+        placeOf_.erase(placeOf_.begin() + row);
+        for (int& other : rowAt_)
+            other -= other > row ? 1 : 0;
+        for (int& other : placeOf_)
+            other -= other > place ? 1 : 0;
+    }
     endRemoveRows();
 }
 
 void ListRowsModel::announceCleared() {
     beginResetModel();
     rows_ = 0;
+    rowAt_.clear();
+    placeOf_.clear();
     endResetModel();
 }
 
 void ListRowsModel::announceChanged(int row) {
-    if (row < rows_)
-        Q_EMIT dataChanged(index(row, 0), index(row, columns_ - 1));
+    if (row >= rows_)
+        return;
+    needsSorting_ = sortColumn_ >= 0;
+    const int place = placeOf(row);
+    Q_EMIT dataChanged(index(place, 0), index(place, columns_ - 1));
 }
 
 void ListRowsModel::announceColumns() {

@@ -1,6 +1,9 @@
 #include "ui/qt/main_window_layout.h"
 
 #include "ui/qt/layout_parts.h"
+#include "ui/qt/list_columns.h"
+#include "ui/qt/main_window_hints.h"
+#include "ui/qt/rows_view.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -25,6 +28,7 @@ MainWindowLayout::MainWindowLayout(ui::FrmMain& form, ControlBinder& controls, Q
     layOutJobs();
     layOutOutput();
     orderFocus();
+    showHints(form, controls);
 }
 
 void MainWindowLayout::layOutWindow(QWidget& window) {
@@ -168,6 +172,9 @@ void MainWindowLayout::layOutJobs() {
         {widget(form_.cmdStart), widget(form_.cmdRemove), widget(form_.cmdClear), widget(form_.cmdControls)});
     buttons->insertWidget(1, widget(form_.Line5));
     buttons->insertWidget(4, widget(form_.Line6));
+
+    constexpr int kResult = 0;
+    static_cast<RowsView*>(widget(form_.lstJob))->columns->keepWhole(kResult);
 
     QVBoxLayout* jobs = column(widget(form_.fmJob));
     jobs->addWidget(widget(form_.lstJob), 1);
