@@ -3,8 +3,10 @@
 #include "ui/qt/colors.h"
 #include "ui/user_actions.h"
 
+#include <QBoxLayout>
 #include <QCloseEvent>
-#include <QLayout>
+#include <QScreen>
+#include <QStyle>
 #include <QWindow>
 
 #include <cmath>
@@ -26,15 +28,26 @@ constexpr double kLargestScale = 8;
 
 } // namespace
 
-FormView::FormView(ui::Form& form) : form_(form), declaredWidth_(form.width), binder_(form, *this) {
+FormView::FormView(ui::Form& form)
+    : form_(form), declaredWidth_(form.width), face_(*new FormFace(*this)),
+      programSize_(form.width, form.height), binder_(form, face_.content()) {
     setObjectName(form.name);
+    auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(&face_);
 }
 
 void FormView::start(std::unique_ptr<WindowLayout> layout) {
     layout_ = std::move(layout);
     // The window's limits come from the form's size, not from what the layout asks for.
     QWidget::layout()->setSizeConstraint(QLayout::SetNoConstraint);
+    content().layout()->setSizeConstraint(QLayout::SetNoConstraint);
     applyScale(neededScale());
+    face_.laidOut = [this] {
+        const TwipScale scale = neededScale();
+        if (scale.pixelsPerTwip() != currentScale().pixelsPerTwip())
+            applyScale(scale);
+    };
     followForm();
 }
 
@@ -46,8 +59,7 @@ void FormView::followForm() {
     if (form_.backColor.get())
         showColor();
     binding().listen(binding().themeChanged, *this, [this] { showColor(); });
-    binding().listen(form_.width.changed, *this, [this] { showSize(); });
-    binding().listen(form_.height.changed, *this, [this] { showSize(); });
+    followSize();
     binding().listen(form_.left.changed, *this, [this] { showPlace(); });
     binding().listen(form_.top.changed, *this, [this] { showPlace(); });
     // A window that nobody has placed yet is left to the desktop.
@@ -71,18 +83,107 @@ TwipScale FormView::neededScale() const {
 
 void FormView::applyScale(const TwipScale& scale) {
     const Binding::Showing guard(binding());
+    size_.grow(scale.pixelsPerTwip() / currentScale().pixelsPerTwip(), normalSize());
     binding().setScale(scale);
     layout_->scaleTo(scale);
     showSize();
 }
 
+void FormView::followSize() {
+    binding().listen(form_.width.changed, *this, [this] { takeSize(); });
+    binding().listen(form_.height.changed, *this, [this] { takeSize(); });
+    // The user may have brought the window to the very height that the program asks for next.
+    form_.height.assigned = [alive = QPointer(this)](bool changes) {
+        if (!alive || changes)
+            return;
+        const Binding::Showing guard(alive->binding());
+        alive->takeSize();
+    };
+}
+
+void FormView::takeSize() {
+    programSize_ = {form_.width, form_.height};
+    showSize();
+    if (standsFree())
+        reportSize();
+}
+
 void FormView::showSize() {
     const TwipScale& scale = currentScale();
-    const WindowLayout::Heights heights = layout_->showHeight(form_.height);
+    const WindowLayout::Heights heights = layout_->showHeight(programSize_.height());
     const auto inside = [&](int formHeight) { return scale.pixels(formHeight - kTitleBarAndBorders); };
-    setMinimumSize(scale.pixels(declaredWidth_ - kBorders), inside(heights.least));
-    setMaximumHeight(std::min(inside(heights.most), QWIDGETSIZE_MAX));
-    resize(scale.pixels(form_.width - kBorders), inside(form_.height));
+    const QSize least(scale.pixels(declaredWidth_ - kBorders), inside(heights.least));
+    const QSize room = roomOnScreen();
+    face_.setLeastSize(least);
+    const QSize bars = face_.barsIn(room);
+    const QSize wanted(scale.pixels(programSize_.width() - kBorders), inside(programSize_.height()));
+    const QSize before = normalSize();
+    const QSize now = size_.show(wanted + bars, before, room);
+    setMinimumSize((least + bars).boundedTo(room));
+    setMaximumHeight(std::min(inside(heights.most) + bars.height(), QWIDGETSIZE_MAX));
+    if (isMaximized()) {
+        sizeAfterMaximised_ = now;
+        return;
+    }
+    resize(now);
+    if (now.width() > before.width() || now.height() > before.height())
+        keepOnScreen();
+}
+
+/// The size that the window has while it is not maximised.
+QSize FormView::normalSize() const {
+    return isMaximized() ? sizeAfterMaximised_.value_or(normalGeometry().size()) : size();
+}
+
+QSize FormView::roomOnScreen() const {
+    const QSize border = isVisible() ? frameGeometry().size() - size()
+                                     : QSize(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    return screen()->availableSize() - border;
+}
+
+void FormView::keepOnScreen() {
+    if (!standsFree())
+        return;
+    const QRect room = screen()->availableGeometry(), frame = frameGeometry();
+    const auto back = [](int from, int to, int least, int most) {
+        return std::max(least - from, std::min(0, most - to));
+    };
+    const QPoint by(back(frame.left(), frame.right(), room.left(), room.right()),
+                    back(frame.top(), frame.bottom(), room.top(), room.bottom()));
+    if (by.isNull())
+        return;
+    move(pos() + by);
+    reportPlace();
+}
+
+/// The room beside the window's borders is known once they are there.
+void FormView::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            const QSize room = roomOnScreen();
+            if (standsFree() && (width() > room.width() || height() > room.height())) {
+                const Binding::Showing guard(binding());
+                showSize();
+            }
+            keepOnScreen();
+        },
+        Qt::QueuedConnection);
+}
+
+/// The desktop gives the window its old size first.
+void FormView::leaveMaximised() {
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (!sizeAfterMaximised_ || isMaximized() || isMinimized())
+                return;
+            resize(*sizeAfterMaximised_);
+            sizeAfterMaximised_.reset();
+            keepOnScreen();
+        },
+        Qt::QueuedConnection);
 }
 
 void FormView::showPlace() {
@@ -138,20 +239,11 @@ void FormView::showPointer() {
         unsetCursor();
 }
 
-bool FormView::event(QEvent* event) {
-    const bool handled = QWidget::event(event);
-    if (event->type() == QEvent::LayoutRequest && layout_) {
-        const TwipScale scale = neededScale();
-        if (scale.pixelsPerTwip() != currentScale().pixelsPerTwip())
-            applyScale(scale);
-    }
-    return handled;
-}
-
 void FormView::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange) {
         reportState();
+        leaveMaximised();
     } else if (event->type() == QEvent::PaletteChange && !binding().showing()) {
         const Binding::Showing guard(binding());
         binding().themeChanged.emitNow();
@@ -176,8 +268,17 @@ void FormView::closeEvent(QCloseEvent* event) {
 
 void FormView::moveEvent(QMoveEvent* event) {
     QWidget::moveEvent(event);
-    if (binding().showing() || !isVisible() || isMinimized())
-        return;
+    if (!binding().showing() && isVisible() && !isMinimized())
+        reportPlace();
+}
+
+void FormView::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    if (!binding().showing() && isVisible() && !isMinimized())
+        reportSize();
+}
+
+void FormView::reportPlace() {
     const TwipScale& scale = currentScale();
     if (scale.pixels(form_.left) != x())
         binding().report(form_.left, scale.twips(x()));
@@ -185,10 +286,7 @@ void FormView::moveEvent(QMoveEvent* event) {
         binding().report(form_.top, scale.twips(y()));
 }
 
-void FormView::resizeEvent(QResizeEvent* event) {
-    QWidget::resizeEvent(event);
-    if (binding().showing() || !isVisible() || isMinimized())
-        return;
+void FormView::reportSize() {
     const TwipScale& scale = currentScale();
     if (scale.pixels(form_.width - kBorders) != width())
         binding().report(form_.width, scale.twips(width()) + kBorders);

@@ -1,15 +1,21 @@
 #pragma once
 
 #include "ui/qt/control_binder.h"
+#include "ui/qt/form_face.h"
 #include "ui/qt/popup_menu.h"
 #include "ui/qt/window_layout.h"
+#include "ui/qt/window_size.h"
 
 #include <memory>
+#include <optional>
 
 namespace tarnwell::view {
 
 /// A real window for a window of the model. It must not outlive the form, and lives until the program's event
 /// loop has ended: closing it asks the model, and the model hides it.
+///
+/// What the user adds to its size stays when the program gives it another. It grows no larger than its
+/// screen, and moves up where it would reach below it; what finds no room even so is scrolled.
 class FormView : public QWidget {
 public:
     explicit FormView(ui::Form& form);
@@ -26,21 +32,32 @@ public:
 
 protected:
     ControlBinder& controls() { return binder_; }
+    /// The widget to lay the controls out in.
+    QWidget& content() const { return face_.content(); }
     /// To be called at the end of the constructor of each window: from here on it follows its form.
     void start(std::unique_ptr<WindowLayout> layout);
 
-    bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     Binding& binding() { return binder_.binding(); }
     void followForm();
     TwipScale neededScale() const;
     void applyScale(const TwipScale& scale);
+    void followSize();
+    void takeSize();
     void showSize();
+    QSize normalSize() const;
+    QSize roomOnScreen() const;
+    void keepOnScreen();
+    void leaveMaximised();
+    bool standsFree() const { return isVisible() && !isMaximized() && !isMinimized(); }
+    void reportPlace();
+    void reportSize();
     void showPlace();
     void showVisibility();
     void showState();
@@ -51,6 +68,10 @@ private:
 
     ui::Form& form_;
     const int declaredWidth_;
+    FormFace& face_;
+    QSize programSize_; ///< twips
+    WindowSize size_;
+    std::optional<QSize> sizeAfterMaximised_;
     ControlBinder binder_;
     std::unique_ptr<WindowLayout> layout_;
 };

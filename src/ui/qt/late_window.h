@@ -23,7 +23,7 @@ private:
     class Window final : public FormView {
     public:
         explicit Window(Form& form) : FormView(form) {
-            start(std::make_unique<Layout>(form, controls(), *this));
+            start(std::make_unique<Layout>(form, controls(), content()));
             bindKeyboard(form, controls(), *this);
         }
     };

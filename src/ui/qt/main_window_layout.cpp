@@ -229,12 +229,10 @@ void MainWindowLayout::scaleTo(const TwipScale& scale) {
 }
 
 WindowLayout::Heights MainWindowLayout::showHeight(int formHeight) {
-    // The activity is uncovered by making the window tall. The user can stretch the lists, but not so far.
+    // The activity is uncovered by the height that the program gives, however tall the user makes the window.
     const bool tall = formHeight >= ui::FrmMain::kTallHeight;
     (*this)(form_.fmOutput)->setVisible(form_.fmOutput.visible && tall);
-    if (tall)
-        return {ui::FrmMain::kTallHeight, kAnyHeight};
-    return {ui::FrmMain::kShortHeight, ui::FrmMain::kTallHeight - ui::kTwipsPerPixel};
+    return {tall ? ui::FrmMain::kTallHeight : ui::FrmMain::kShortHeight, kAnyHeight};
 }
 
 } // namespace tarnwell::view

@@ -6,7 +6,7 @@
 namespace tarnwell::view {
 
 MainWindowView::MainWindowView(ui::FrmMain& form) : FormView(form) {
-    start(std::make_unique<MainWindowLayout>(form, controls(), *this));
+    start(std::make_unique<MainWindowLayout>(form, controls(), content()));
     bindKeyboard(form, controls(), *this);
 }
 
