@@ -1,12 +1,9 @@
-#include "view/screens.h"
-
 #include <QApplication>
 
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
-    const tarnwell::view::Screens screens;
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setStyle("Fusion");
