@@ -96,7 +96,7 @@ enum class MessageIcon { Exclamation, Question, Stop };
 struct OpenFileRequest {
     QString title{}; ///< empty: the platform's own
     QString filter{};
-    QString folder{};    ///< empty: the dialog's own start folder
+    QString folder{};    ///< empty: where a file of the filter's first kind was picked last in this run
     QString extension{}; ///< goes behind a name that is typed without one and names no file as it is
     bool mustExist = false;
 };
@@ -105,7 +105,7 @@ struct OpenFileRequest {
 struct SaveFileRequest {
     QString title{}; ///< empty: the platform's own
     QString filter{};
-    QString folder{};    ///< empty: the dialog's own start folder
+    QString folder{};    ///< empty: where a file of the filter's first kind was picked last in this run
     QString fileName{};  ///< what stands in the dialog at first
     QString extension{}; ///< goes behind a name that is typed without one; "iso" and "*.iso" are the same
     bool askBeforeOverwriting = false;
@@ -114,7 +114,7 @@ struct SaveFileRequest {
 /// What the folder dialog offers.
 struct ChooseFolderRequest {
     QString title{};
-    QString folder{}; ///< where it starts; empty: the dialog's own start folder
+    QString folder{}; ///< where it starts; empty: the folder that was picked last in this run
 };
 
 /// Boxes that wait for the user, with the program's title. All of them pump events while they are open.

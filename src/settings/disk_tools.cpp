@@ -128,7 +128,8 @@ void DiskTools::backUp() {
     const std::optional<QString> from = device();
     if (!from)
         return;
-    const auto file = shared_.ports.dialogs.saveFile({.filter = kTocFiles,
+    const auto file = shared_.ports.dialogs.saveFile({.title = "Save Table of Contents As",
+                                                      .filter = kTocFiles,
                                                       .folder = shared_.config.AppFolder(),
                                                       .fileName = "tarntoc.bak",
                                                       .askBeforeOverwriting = true});
@@ -150,8 +151,10 @@ void DiskTools::restore() {
     const std::optional<QString> to = device();
     if (!to || !shared_.ports.dialogs.question("Are you sure you want to do this?", shared_.title))
         return;
-    const auto file = shared_.ports.dialogs.openFile(
-        {.filter = kTocFiles + kAllFiles, .folder = shared_.config.AppFolder(), .mustExist = true});
+    const auto file = shared_.ports.dialogs.openFile({.title = "Select Table of Contents to Restore",
+                                                      .filter = kTocFiles + kAllFiles,
+                                                      .folder = shared_.config.AppFolder(),
+                                                      .mustExist = true});
     const auto name = file ? NameInCodePage(shared_, *file) : std::nullopt;
     if (name && requireIdleTool(shared_, channel_))
         runTool(RestoreTocCommand(*to, *name));

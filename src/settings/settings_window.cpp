@@ -98,7 +98,8 @@ void SettingsWindow::useDefaults() {
 }
 
 void SettingsWindow::chooseDiscDatabase() {
-    const auto file = shared_.ports.dialogs.openFile({.filter = "Tarnwell Disk Database|" + kDiscDatabase,
+    const auto file = shared_.ports.dialogs.openFile({.title = "Select Disk Database",
+                                                      .filter = "Tarnwell Disk Database|" + kDiscDatabase,
                                                       .folder = toolConfig_.folder(),
                                                       .mustExist = true});
     if (!file || !file->toLower().endsWith(kDiscDatabase))

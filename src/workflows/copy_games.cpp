@@ -55,7 +55,8 @@ void CopyGames::copyToPc() {
     const auto game = focusedGame();
     if (!game || !requireSingleGame() || !requireListedDisk(shared_, game->device))
         return;
-    const auto path = shared_.ports.dialogs.saveFile({.filter = kIsoFiles,
+    const auto path = shared_.ports.dialogs.saveFile({.title = "Save Copy of Game As",
+                                                      .filter = kIsoFiles,
                                                       .folder = shared_.config.text("DefaultISO"),
                                                       .fileName = proposedFileName(game->name),
                                                       .extension = "iso"});

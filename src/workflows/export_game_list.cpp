@@ -65,7 +65,8 @@ ExportGameList::ExportGameList(Shared& shared) : shared_(shared) {
 
 void ExportGameList::exportList() {
     Dialogs& dialogs = shared_.ports.dialogs;
-    const auto path = dialogs.saveFile({.filter = kTextFilter,
+    const auto path = dialogs.saveFile({.title = "Save List of Games As",
+                                        .filter = kTextFilter,
                                         .folder = shared_.config.AppFolder(),
                                         .fileName = "games.txt",
                                         .extension = "*.txt",

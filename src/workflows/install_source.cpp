@@ -90,7 +90,8 @@ void InstallSource::readDisc() {
 void InstallSource::browse() {
     if (!requireTool(shared_))
         return;
-    const auto path = shared_.ports.dialogs.openFile({.filter = kInstallableImages,
+    const auto path = shared_.ports.dialogs.openFile({.title = "Select Game Image",
+                                                      .filter = kInstallableImages,
                                                       .folder = shared_.config.text("DefaultISO"),
                                                       .extension = "*.iso",
                                                       .mustExist = true});

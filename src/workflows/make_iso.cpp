@@ -34,7 +34,8 @@ void MakeIso::makeIso() {
         shared_.message("Please enter a name for the game.");
         return;
     }
-    const auto path = shared_.ports.dialogs.saveFile({.filter = kImageKinds,
+    const auto path = shared_.ports.dialogs.saveFile({.title = "Save Disc Image As",
+                                                      .filter = kImageKinds,
                                                       .folder = shared_.config.text("DefaultISO"),
                                                       .fileName = PermittedFileName(name + ".iso"),
                                                       .extension = "*.iso",

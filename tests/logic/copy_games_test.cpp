@@ -118,6 +118,7 @@ TEST_F(CopyGames, TheDialogProposesTheNameOfTheGame) {
     select({1});
     copyToPc("/g.iso");
     const SaveFileRequest& request = ports.dialogs.saveFileRequests.at(0);
+    EXPECT_EQ(request.title, "Save Copy of Game As");
     EXPECT_EQ(request.fileName, "Copper Run.iso");
     EXPECT_EQ(request.folder, "/my images");
     EXPECT_EQ(request.extension, "iso");

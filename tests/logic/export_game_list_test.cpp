@@ -33,6 +33,7 @@ TEST_F(ExportGameList, AsksForTheFileAndForTheFormat) {
     exported("");
     ASSERT_EQ(ports.dialogs.saveFileRequests.size(), 1u);
     const SaveFileRequest& request = ports.dialogs.saveFileRequests[0];
+    EXPECT_EQ(request.title, "Save List of Games As");
     EXPECT_EQ(request.fileName, "games.txt");
     EXPECT_EQ(request.extension, "*.txt");
     EXPECT_EQ(request.filter, "Text Files (*.txt)|*.txt|All Files (*.*)|*.*|");

@@ -145,6 +145,7 @@ TEST_F(InstallSource, TheFileDialogStartsInTheFolderOfTheSettings) {
     store("DefaultISO", "/games/");
     pick("/games/a.iso");
     ASSERT_EQ(ports.dialogs.openFileRequests.size(), 1u);
+    EXPECT_EQ(ports.dialogs.openFileRequests[0].title, "Select Game Image");
     EXPECT_EQ(ports.dialogs.openFileRequests[0].folder, "/games/");
     EXPECT_EQ(ports.dialogs.openFileRequests[0].extension, "*.iso");
     EXPECT_TRUE(ports.dialogs.openFileRequests[0].mustExist);

@@ -48,7 +48,7 @@ TEST_F(MakeIso, TheDialogProposesTheNameOfTheGame) {
     EXPECT_EQ(request.fileName, "Lantern and Quill.iso");
     EXPECT_EQ(request.folder, "/my images");
     EXPECT_EQ(request.extension, "*.iso");
-    EXPECT_EQ(request.title, "");
+    EXPECT_EQ(request.title, "Save Disc Image As");
     EXPECT_TRUE(request.askBeforeOverwriting);
     EXPECT_EQ(request.filter, "ISO Files (*.iso)|*.iso|CUE Files (*.cue)|*.cue|Nero Burning Image "
                               "(*.nrg)|*.nrg|RecordNow! Global Image (*.gi)|*.gi|Sony CD/DVD "

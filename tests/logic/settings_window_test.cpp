@@ -236,6 +236,7 @@ TEST_F(SettingsWindowTest, OnlyTheToolsOwnDiscDatabaseIsTaken) {
     EXPECT_EQ(frmSettings->txtDiscDatabase.text.get(), "D:\\TarnWell.LIST");
     EXPECT_TRUE(ports.dialogs.messages.empty());
     const OpenFileRequest& request = ports.dialogs.openFileRequests.back();
+    EXPECT_EQ(request.title, "Select Disk Database");
     EXPECT_EQ(request.filter, "Tarnwell Disk Database|tarnwell.list");
     EXPECT_EQ(request.folder, ports.folders.data + QDir::separator());
     EXPECT_TRUE(request.mustExist);

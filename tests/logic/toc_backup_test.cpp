@@ -41,6 +41,7 @@ TEST_F(TocBackup, SavingTheTableRunsTheToolOnTheLongFormOfTheDisk) {
     ui::click(frmSettings.cmdBackupTOC);
     ASSERT_EQ(ports.dialogs.saveFileRequests.size(), 1U);
     const SaveFileRequest& asked = ports.dialogs.saveFileRequests[0];
+    EXPECT_EQ(asked.title, "Save Table of Contents As");
     EXPECT_EQ(asked.filter, "HDLoader TOC File (*.bak)|*.bak|");
     EXPECT_EQ(asked.fileName, "tarntoc.bak");
     EXPECT_EQ(asked.folder, program.shared().config.AppFolder());
@@ -177,6 +178,7 @@ TEST_F(TocBackup, RestoringTakesAFileThatExists) {
     ui::click(frmSettings.cmdRestoreTOC);
     ASSERT_EQ(ports.dialogs.openFileRequests.size(), 1U);
     const OpenFileRequest& asked = ports.dialogs.openFileRequests[0];
+    EXPECT_EQ(asked.title, "Select Table of Contents to Restore");
     EXPECT_EQ(asked.filter, "HDLoader TOC File (*.bak)|*.bak|All Files (*.*)|*.*|");
     EXPECT_EQ(asked.folder, program.shared().config.AppFolder());
     EXPECT_TRUE(asked.mustExist);

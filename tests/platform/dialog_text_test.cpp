@@ -21,6 +21,17 @@ TEST(FileFilter, WhatIsNoPairIsPassedOver) {
     EXPECT_EQ(toolkitFilters("words|*.a|more words"), QStringList({"words (*.a)"}));
 }
 
+TEST(FileFilter, ADialogThatHeedsTheCaseGetsPatternsForBothAndTheSameWords) {
+    EXPECT_EQ(toolkitFilters("ISO Files (*.iso)|*.iso;*.7z|All Files (*.*)|*.*|", PatternsFit::OwnCase),
+              QStringList({"ISO Files (*.[iI][sS][oO] *.7[zZ])", "All Files (*)"}));
+}
+
+TEST(FileFilter, TheFirstPatternTellsTheKindOfFile) {
+    EXPECT_EQ(kindOfFile("ISO Files (*.iso)|*.iso|All Files (*.*)|*.*|"), "*.iso");
+    EXPECT_EQ(kindOfFile("Images|*.ISO;*.bin|"), "*.iso");
+    EXPECT_EQ(kindOfFile(""), "");
+}
+
 TEST(MessageText, AnOrdinaryTextIsShownAsItIs) {
     const QString text = "tarnwell.exe was not found.\nPlace it in the same directory & try again. <b>";
     EXPECT_EQ(fitMessageText(text).shown, text);

@@ -6,6 +6,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -194,16 +195,88 @@ TEST_F(SaveFileTest, ANameThatIsNoFileNameIsProposedAsItIs) {
     }
 }
 
-TEST_F(SaveFileTest, WithoutAFolderTheDialogStartsWhereItLastWas) {
-    type("typed");
-    dialogs_.saveFile(request());
-    SaveFileRequest nowhere = request();
-    nowhere.folder.clear();
-    whenOpen<QFileDialog>([&](QFileDialog& dialog) {
-        EXPECT_EQ(dialog.directory().canonicalPath(), QFileInfo(folder_.path()).canonicalFilePath());
+/// Where the dialogs start when nobody says where, after picks of two kinds in two folders.
+class StartFolderTest : public SaveFileTest {
+protected:
+    void SetUp() override {
+        SaveFileTest::SetUp();
+        type("typed");
+        ASSERT_TRUE(dialogs_.saveFile(request()));
+        type("games");
+        ASSERT_TRUE(dialogs_.saveFile({.filter = kTexts, .folder = other_.path()}));
+    }
+    static QString canonical(const QString& folder) { return QFileInfo(folder).canonicalFilePath(); }
+    QString startOfSave(const QString& filter, const QString& folder = {}) {
+        look();
+        dialogs_.saveFile({.filter = filter, .folder = folder});
+        return seen_;
+    }
+    QString startOfOpen(const QString& filter) {
+        look();
+        dialogs_.openFile({.filter = filter});
+        return seen_;
+    }
+    QString startOfFolder() {
+        look();
+        dialogs_.chooseFolder({});
+        return seen_;
+    }
+    void look() {
+        whenOpen<QFileDialog>([this](QFileDialog& dialog) {
+            seen_ = dialog.directory().canonicalPath();
+            dialog.reject();
+        });
+    }
+
+    static inline const QString kTexts = "Texts|*.txt|", kImages = "Games|*.ISO|";
+    QTemporaryDir other_;
+    QString seen_;
+};
+
+TEST_F(StartFolderTest, IsThatOfTheLastPickOfItsKind) {
+    EXPECT_EQ(startOfSave(kImages), canonical(folder_.path()));
+    EXPECT_EQ(startOfOpen(kImages), canonical(folder_.path()));
+    EXPECT_EQ(startOfOpen(kTexts), canonical(other_.path()));
+}
+
+TEST_F(StartFolderTest, IsTheOneThatIsAskedForIfThereIsOne) {
+    EXPECT_EQ(startOfSave(kImages, other_.path()), canonical(other_.path()));
+}
+
+TEST_F(StartFolderTest, StaysWhenADialogIsCancelled) {
+    startOfSave(kImages, other_.path());
+    EXPECT_EQ(startOfSave(kImages), canonical(folder_.path()));
+}
+
+TEST_F(StartFolderTest, IsNotAFolderThatHasGone) {
+    ASSERT_TRUE(folder_.remove());
+    EXPECT_TRUE(QFileInfo(startOfOpen(kImages)).isDir());
+}
+
+TEST_F(StartFolderTest, OfTheFolderDialogIsTheFolderThatWasPicked) {
+    type(other_.path());
+    ASSERT_TRUE(dialogs_.chooseFolder({.folder = folder_.path()}));
+    type("texts");
+    ASSERT_TRUE(dialogs_.saveFile({.filter = kTexts, .folder = folder_.path()}));
+    EXPECT_EQ(startOfFolder(), canonical(other_.path()));
+}
+
+TEST_F(OpenFileTest, APatternFitsNamesInCapitalsToo) {
+    ASSERT_TRUE(QFile::copy(folder_.filePath("game.iso"), folder_.filePath("LOUD.ISO")));
+    ASSERT_TRUE(QFile::copy(folder_.filePath("game.iso"), folder_.filePath("loud.txt")));
+    OpenFileRequest images = request();
+    images.filter = "Images|*.iso|";
+    QStringList listed;
+    whenOpen<QFileDialog>([&listed](QFileDialog& dialog) {
+        const auto* const list = dialog.findChild<QListView*>("listView");
+        test::pumpUntil([list] { return list->model()->rowCount(list->rootIndex()) >= 2; });
+        for (int row = 0; row < list->model()->rowCount(list->rootIndex()); ++row)
+            listed += list->model()->index(row, 0, list->rootIndex()).data().toString();
         dialog.reject();
     });
-    dialogs_.saveFile(nowhere);
+    dialogs_.openFile(images);
+    listed.sort();
+    EXPECT_EQ(listed, QStringList({"LOUD.ISO", "game.iso"}));
 }
 
 TEST_F(ChooseFolderTest, AFolderIsChosenFromTheOneThatItStartsIn) {

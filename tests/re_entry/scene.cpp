@@ -155,6 +155,12 @@ void Scene::lookAtReports() {
         return std::ranges::count_if(ports.tray.balloons,
                                      [&](const auto& balloon) { return balloon.text.endsWith(words); });
     };
+    for (const auto& request : ports.dialogs.openFileRequests)
+        demand(!request.title.isEmpty(),
+               "a dialog that does not say what is picked: " + request.filter.toStdString());
+    for (const auto& request : ports.dialogs.saveFileRequests)
+        demand(!request.title.isEmpty(),
+               "a dialog that does not say what is picked: " + request.filter.toStdString());
     demand(told(" deleted from HDD") <= sent("delete "), "a delete that never ran is told");
     demand(told(" has been formatted for HDLoader") <= sent("initialize "),
            "a format that never ran is told");

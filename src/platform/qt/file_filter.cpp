@@ -17,21 +17,37 @@ QString toolkitPattern(const QString& pattern) {
     return trimmed == QStringLiteral("*.*") ? QStringLiteral("*") : trimmed;
 }
 
+QString inEitherCase(const QString& pattern) {
+    QString result;
+    for (const QChar letter : pattern) {
+        if (letter.isLower() || letter.isUpper())
+            result += u'[' + letter.toLower() + letter.toUpper() + u']';
+        else
+            result += letter;
+    }
+    return result;
+}
+
 } // namespace
 
-QStringList toolkitFilters(const QString& filter) {
+QStringList toolkitFilters(const QString& filter, PatternsFit fit) {
     const QStringList parts = filter.split(u'|');
     QStringList filters;
     for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
         QStringList patterns;
         for (const QString& pattern : parts[i + 1].split(u';', Qt::SkipEmptyParts)) {
-            patterns += toolkitPattern(pattern);
+            const QString shown = toolkitPattern(pattern);
+            patterns += fit == PatternsFit::OwnCase ? inEitherCase(shown) : shown;
         }
         if (!patterns.isEmpty()) {
             filters += withoutParentheses(parts[i]) + QStringLiteral(" (") + patterns.join(u' ') + u')';
         }
     }
     return filters;
+}
+
+QString kindOfFile(const QString& filter) {
+    return filter.section(u'|', 1, 1).section(u';', 0, 0).trimmed().toLower();
 }
 
 } // namespace tarnwell

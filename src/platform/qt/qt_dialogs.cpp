@@ -13,6 +13,7 @@
 #include <QFontInfo>
 #include <QFontMetrics>
 #include <QInputDialog>
+#include <QOperatingSystemVersion>
 
 namespace tarnwell {
 
@@ -68,6 +69,17 @@ QString suffixOf(const QString& extension) {
     return extension.mid(extension.lastIndexOf(u'.') + 1);
 }
 
+/// Folders are a kind of their own, and nothing is filtered out.
+const QString kFolders;
+
+/// Windows' own dialogs and the toolkit's take no notice of the case; other desktops' may.
+PatternsFit patternsOf(const QFileDialog& dialog) {
+    const bool madeByToolkit = dialog.layout() != nullptr;
+    return madeByToolkit || QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows
+               ? PatternsFit::AnyCase
+               : PatternsFit::OwnCase;
+}
+
 /// The toolkit puts the suffix behind each name that has none, be it that of a file.
 class OpenDialog : public QFileDialog {
 public:
@@ -115,7 +127,7 @@ std::optional<QString> QtDialogs::input(const QString& prompt, const QString& ti
 }
 
 std::optional<QString> QtDialogs::openFile(const OpenFileRequest& request) {
-    OpenDialog dialog(windowOfTheUser(), request.title, request.folder);
+    OpenDialog dialog(windowOfTheUser(), request.title, startFolder(request.folder, request.filter));
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(request.mustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite); // a file that exists is what an open dialog is for
@@ -124,7 +136,7 @@ std::optional<QString> QtDialogs::openFile(const OpenFileRequest& request) {
 }
 
 std::optional<QString> QtDialogs::saveFile(const SaveFileRequest& request) {
-    QFileDialog dialog(windowOfTheUser(), request.title, request.folder);
+    QFileDialog dialog(windowOfTheUser(), request.title, startFolder(request.folder, request.filter));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.askBeforeOverwriting);
     dialog.setDefaultSuffix(suffixOf(request.extension));
@@ -133,10 +145,10 @@ std::optional<QString> QtDialogs::saveFile(const SaveFileRequest& request) {
 }
 
 std::optional<QString> QtDialogs::chooseFolder(const ChooseFolderRequest& request) {
-    QFileDialog dialog(windowOfTheUser(), request.title, request.folder);
+    QFileDialog dialog(windowOfTheUser(), request.title, startFolder(request.folder, kFolders));
     dialog.setFileMode(QFileDialog::Directory);
     dialog.setOption(QFileDialog::ShowDirsOnly);
-    return chooseFile(dialog, {});
+    return chooseFile(dialog, kFolders);
 }
 
 std::optional<ui::Font> QtDialogs::chooseFont(const ui::Font& current) {
@@ -157,14 +169,22 @@ std::optional<std::int32_t> QtDialogs::chooseColor(std::int32_t current) {
     return color.blue() << 16 | color.green() << 8 | color.red();
 }
 
-std::optional<QString> QtDialogs::chooseFile(QFileDialog& dialog, const QString& filter) const {
-    if (const QStringList filters = toolkitFilters(filter); !filters.isEmpty()) {
+QString QtDialogs::startFolder(const QString& wanted, const QString& filter) const {
+    if (!wanted.isEmpty())
+        return wanted;
+    const QString last = lastFolders_.value(kindOfFile(filter));
+    return QDir(last).exists() ? last : QString();
+}
+
+std::optional<QString> QtDialogs::chooseFile(QFileDialog& dialog, const QString& filter) {
+    if (const QStringList filters = toolkitFilters(filter, patternsOf(dialog)); !filters.isEmpty())
         dialog.setNameFilters(filters);
-    }
-    if (waitFor(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+    if (waitFor(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
-    }
-    return QDir::toNativeSeparators(dialog.selectedFiles().constFirst());
+    const QString picked = dialog.selectedFiles().constFirst();
+    const bool folder = dialog.fileMode() == QFileDialog::Directory;
+    lastFolders_[kindOfFile(filter)] = folder ? picked : QFileInfo(picked).path();
+    return QDir::toNativeSeparators(picked);
 }
 
 int QtDialogs::waitFor(QDialog& dialog) const {

@@ -3,6 +3,7 @@
 #include "platform/qt/qt_event_pump.h"
 
 #include <QColor>
+#include <QHash>
 #include <QMessageBox>
 
 class QFileDialog;
@@ -30,10 +31,12 @@ private:
     int waitFor(QDialog& dialog) const;
     QMessageBox::StandardButton show(const QString& text, QMessageBox::Icon icon, const QString& title,
                                      QMessageBox::StandardButtons buttons) const;
-    std::optional<QString> chooseFile(QFileDialog& dialog, const QString& filter) const;
+    QString startFolder(const QString& wanted, const QString& filter) const;
+    std::optional<QString> chooseFile(QFileDialog& dialog, const QString& filter);
 
     const QtEventPump& pump_;
     std::function<QColor(std::int32_t)> toColor_;
+    QHash<QString, QString> lastFolders_; ///< by the kind of file
 };
 
 } // namespace tarnwell
