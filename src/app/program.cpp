@@ -25,6 +25,7 @@ Program::Program(const Ports& ports)
       statusServer_(shared_),
       queueRunner_(shared_, channel_, StdIO_, guiSwitch_, completionActions_, sounds_, statusServer_),
       deviceSelection_(shared_, channel_, interpreter_), installSource_(shared_, channel_, interpreter_),
+      droppedImages_(shared_, StdIO_, channel_, guiSwitch_, installSource_, jobList_),
       installNow_(shared_, channel_, StdIO_, guiSwitch_, completionActions_, statusServer_),
       makeIso_(shared_, jobList_), copyGames_(shared_, jobList_), deleteGames_(shared_, channel_, jobList_),
       renameGame_(shared_, channel_, guiSwitch_), exportGameList_(shared_), appearance_(shared_),

@@ -22,6 +22,7 @@
 #include "workflows/copy_games.h"
 #include "workflows/delete_games.h"
 #include "workflows/device_selection.h"
+#include "workflows/dropped_images.h"
 #include "workflows/export_game_list.h"
 #include "workflows/install_now.h"
 #include "workflows/install_source.h"
@@ -66,6 +67,7 @@ private:
     QueueRunner queueRunner_;
     DeviceSelection deviceSelection_;
     InstallSource installSource_;
+    DroppedImages droppedImages_;
     InstallNow installNow_;
     MakeIso makeIso_;
     CopyGames copyGames_;

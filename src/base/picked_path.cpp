@@ -25,9 +25,13 @@ std::optional<QString> orTell(Shared& shared, const QString& name, const QString
 
 } // namespace
 
+QString KnownName(const SystemFolders& folders, const QString& path) {
+    const QString own = ownNameInKnownFolder(folders, path);
+    return own.isEmpty() ? folders.pathInCodePage(path) : own;
+}
+
 std::optional<QString> NameInCodePage(Shared& shared, const QString& path) {
-    const QString own = ownNameInKnownFolder(shared.ports.folders, path);
-    return orTell(shared, own.isEmpty() ? shared.ports.folders.pathInCodePage(path) : own, path);
+    return orTell(shared, KnownName(shared.ports.folders, path), path);
 }
 
 std::optional<QString> NewNameInCodePage(Shared& shared, const QString& path) {

@@ -9,6 +9,9 @@
 /// the path is picked, and it is not taken.
 namespace tarnwell {
 
+/// What a file or folder that is there is called; empty if it has no such name.
+QString KnownName(const SystemFolders& folders, const QString& path);
+
 /// What a file or folder that is there is called; a folder has a separator at its end. Nothing if the user
 /// was told.
 std::optional<QString> NameInCodePage(Shared& shared, const QString& path);

@@ -117,6 +117,15 @@ struct ChooseFolderRequest {
     QString folder{}; ///< where it starts; empty: the folder that was picked last in this run
 };
 
+/// A box that shows how far a thing of many steps has come. It is up for as long as it lives, and meanwhile
+/// no other window of the program can be used.
+class ProgressBox {
+public:
+    virtual ~ProgressBox() = default;
+    /// `text` is what is under way now. Nobody knows how long it takes if there are 0 steps.
+    virtual void show(const QString& text, int done, int steps) = 0;
+};
+
 /// Boxes that wait for the user, with the program's title. All of them pump events while they are open.
 class Dialogs {
 public:
@@ -141,6 +150,8 @@ public:
     /// Starts at `current`, which may be a system colour; the answer is 0x00BBGGRR, nothing if the user
     /// cancelled.
     virtual std::optional<std::int32_t> chooseColor(std::int32_t current) = 0;
+    /// Returns at once. `cancel` is called each time the user asks for an early end; the box stays.
+    virtual std::unique_ptr<ProgressBox> progress(const QString& title, std::function<void()> cancel) = 0;
 };
 
 /// The program's one icon in the system tray. On a desktop without a tray every call does nothing.

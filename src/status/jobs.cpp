@@ -7,7 +7,7 @@ namespace tarnwell {
 namespace {
 
 /// The columns behind the result.
-enum SubItem { kTask, kSource, kDestination };
+enum SubItem { kTask, kSource, kDestination, kName };
 
 } // namespace
 
@@ -65,6 +65,15 @@ bool Jobs::touch(const QString& device) const {
     for (int row = 0; row < count(); ++row) {
         const QStringList& job = lstJob_.row(row).subItems;
         if (job[kDestination] == device || (job[kTask] == QLatin1String("Delete") && job[kSource] == device))
+            return true;
+    }
+    return false;
+}
+
+bool Jobs::bring(const QString& name, const QString& device) const {
+    for (int row = 0; row < count(); ++row) {
+        const QStringList& job = lstJob_.row(row).subItems;
+        if (job[kDestination] == device && job[kName] == name)
             return true;
     }
     return false;

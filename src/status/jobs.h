@@ -52,6 +52,8 @@ public:
     /// Whether a job, whatever became of it, writes to the device or deletes from it. Rows name a local disk
     /// by less than its entry in the list of disks, so only a networked console is ever recognised.
     bool touch(const QString& device) const;
+    /// Whether a job, whatever became of it, puts a game of this name onto the device.
+    bool bring(const QString& name, const QString& device) const;
 
 private:
     Shared& shared_;

@@ -4,6 +4,8 @@
 #include "status/elapsed.h"
 #include "tool/stop_tool.h"
 
+#include <QScopeGuard>
+
 namespace tarnwell {
 
 namespace {
@@ -21,19 +23,39 @@ ToolChannel::ToolChannel(Shared& shared, cStdIO& StdIO, OutputInterpreter& inter
 }
 
 QString ToolChannel::Tarn_Command(const QString& strCommand) {
+    if (const auto answer = ask(strCommand))
+        return *answer;
+    shared_.message("An unknown error has occurred. Please try restarting the program and make sure to close "
+                    "tarnwell.exe by pressing CTRL+ALT+DEL.");
+    return {};
+}
+
+QString ToolChannel::Tarn_Question(const QString& strCommand) {
+    question_ = strCommand;
+    questionDropped_ = false;
+    const auto asked = qScopeGuard([this] { question_.clear(); });
+    return ask(strCommand).value_or(QString());
+}
+
+void ToolChannel::dropQuestion() {
+    questionDropped_ = true;
+    if (!question_.isEmpty() && running_ == question_)
+        StdIO_.interrupt();
+}
+
+std::optional<QString> ToolChannel::ask(const QString& command) {
     blnGotData_ = false;
     QString answer;
     for (int attempt = 1;; ++attempt) {
         if (StdIO_.Ready())
-            answer = run(strCommand);
+            answer = run(command);
+        if (dropped(command))
+            return QString();
         if (attempt == kAttempts)
-            break;
-        if (answeredWithinPause())
+            return std::nullopt;
+        if (answeredWithinPause(command))
             return answer;
     }
-    shared_.message("An unknown error has occurred. Please try restarting the program and make sure to close "
-                    "tarnwell.exe by pressing CTRL+ALT+DEL.");
-    return {};
 }
 
 bool ToolChannel::Tarn_Execute(const QString& strRawCommand) {
@@ -51,10 +73,14 @@ QString ToolChannel::run(const QString& command) {
     if (StdIO_.stoppedToolLives())
         shared_.frmMain.txtOutput.text = kStoppedToolLives;
     WaitForStoppedTool(StdIO_, shared_.ports.pump);
+    if (dropped(command))
+        return {};
     // Another command may have run inside this wait.
     shared_.frmMain.txtCommand.text = command;
     shared_.frmMain.txtOutput.text = QString();
     unreadableLine_.reset();
+    running_ = command;
+    const auto over = qScopeGuard([this] { running_.clear(); });
     QString output = StdIO_.ExecuteCommand(shared_.config.ToolPath() + ' ' + command);
     if (const QString& why = StdIO_.whyNotStarted(); !why.isEmpty())
         shared_.frmMain.txtOutput.text = why;
@@ -62,11 +88,11 @@ QString ToolChannel::run(const QString& command) {
     return output;
 }
 
-bool ToolChannel::answeredWithinPause() {
+bool ToolChannel::answeredWithinPause(const QString& command) {
     // Across midnight the difference is negative until the clock has caught up.
     const double start = shared_.ports.clock.secondsSinceMidnight();
     do {
-        if (blnGotData_)
+        if (blnGotData_ || dropped(command))
             return true;
         shared_.ports.pump.waitForEvent(EventPump::kLookAgainMilliseconds);
     } while (shared_.ports.clock.secondsSinceMidnight() - start < kPauseSeconds);

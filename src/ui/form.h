@@ -32,6 +32,10 @@ public:
     Event<> Load;
     /// Asked in this order before the window closes; a handler that sets `cancel` keeps it open.
     Event<bool& /*cancel*/> QueryUnload, Unload;
+    /// Files or folders are held over the window, as full paths: a handler that would take them sets `takes`.
+    Event<const QStringList& /*paths*/, bool& /*takes*/> FilesOffered;
+    /// They were dropped onto the window, which would take them.
+    Event<const QStringList& /*paths*/> FilesDropped;
     /// The user asks to close the window while its Unload handler is at it already.
     Event<> CloseAgain;
 

@@ -102,6 +102,20 @@ void pressMouse(ListView& list, int button) {
         list.form().dispatch([&] { list.MouseDown(button); });
 }
 
+bool takesFiles(const Form& form, const QStringList& paths) {
+    bool takes = false;
+    if (form.shown())
+        form.dispatch([&] { form.FilesOffered(paths, takes); });
+    return takes;
+}
+
+bool dropFiles(const Form& form, const QStringList& paths) {
+    if (!takesFiles(form, paths))
+        return false;
+    form.dispatch([&] { form.FilesDropped(paths); });
+    return true;
+}
+
 bool close(Form& form) {
     form.dispatch([&] {
         if (form.unloading())

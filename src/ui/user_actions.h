@@ -26,6 +26,10 @@ void tick(Timer& timer);
 /// Returns whether the label was taken. It has one line.
 bool editLabel(ListView& list, int row, const QString& text);
 void pressMouse(ListView& list, int button);
+/// Whether the window would take these files and folders right now.
+bool takesFiles(const Form& form, const QStringList& paths);
+/// Returns whether the window took them.
+bool dropFiles(const Form& form, const QStringList& paths);
 /// The close box of the window. Returns whether the window has closed.
 bool close(Form& form);
 

@@ -20,18 +20,22 @@ void AddGame::add() {
     }
     if (!requireFreeSpace(shared_))
         return;
+    const NewJob game = TakeGame(frmMain);
+    jobList_.queueJob(game.job, game.command, kJobAdded);
+}
+
+NewJob TakeGame(ui::FrmMain& frmMain) {
     const Installation game = ReadInstallPage(frmMain);
-    jobList_.queueJob({.task = "Install",
-                       .source = game.source,
-                       .destination = game.device,
-                       .name = game.name,
-                       .startup = game.startup,
-                       .type = game.type,
-                       .flags = game.flags},
-                      InstallCommand(game));
     frmMain.optISO.value = true;
     resetInstallPage(frmMain);
-    shared_.balloon(kJobAdded);
+    return {.job = {.task = "Install",
+                    .source = game.source,
+                    .destination = game.device,
+                    .name = game.name,
+                    .startup = game.startup,
+                    .type = game.type,
+                    .flags = game.flags},
+            .command = InstallCommand(game)};
 }
 
 } // namespace tarnwell

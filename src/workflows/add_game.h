@@ -4,6 +4,12 @@
 
 namespace tarnwell {
 
+/// A job that is still to be queued.
+struct NewJob {
+    Job job;
+    QString command;
+};
+
 /// Queues the game of the install page, to be installed onto the selected device when the queue runs. Only
 /// this one game is weighed against the free space: the queue can hold more than the disk can take.
 class AddGame {
@@ -16,5 +22,8 @@ private:
     Shared& shared_;
     JobList& jobList_;
 };
+
+/// Takes the game from the install page, which is empty afterwards.
+NewJob TakeGame(ui::FrmMain& frmMain);
 
 } // namespace tarnwell

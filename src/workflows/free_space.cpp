@@ -33,16 +33,23 @@ qint32 RoundUp128(qint32 size) {
     return rest > 0 ? size - rest + kUnitMegabytes : size - rest;
 }
 
+bool Room::enough() const {
+    return Val(available) >= needed;
+}
+
+Room RoomForGame(const ui::FrmMain& form) {
+    return {.needed = RoundUp128(sizeOfSource(form.txtGameSize.tag)), .available = form.picDiskSpace.tag};
+}
+
 bool requireFreeSpace(Shared& shared) {
     if (!requireListedDisk(shared, shared.listedDevice))
         return false;
-    const QString available = shared.frmMain.picDiskSpace.tag;
-    const qint32 needed = RoundUp128(sizeOfSource(shared.frmMain.txtGameSize.tag));
-    if (Val(available) >= needed)
+    const Room room = RoomForGame(shared.frmMain);
+    if (room.enough())
         return true;
     shared.message("You do not have enough available space on your hard-drive to install this game.\r\n\r\n"
                    "To install this game you need " +
-                   QString::number(needed) + "MB and you only have " + available + "MB available.");
+                   QString::number(room.needed) + "MB and you only have " + room.available + "MB available.");
     return false;
 }
 

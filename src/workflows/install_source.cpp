@@ -6,6 +6,8 @@
 #include "workflows/command_arguments.h"
 #include "workflows/query.h"
 
+#include <QFileInfo>
+
 namespace tarnwell {
 
 namespace {
@@ -97,11 +99,22 @@ void InstallSource::browse() {
                                                       .mustExist = true});
     if (!path || path->isEmpty())
         forgetImage();
-    else if (const auto name = NameInCodePage(shared_, *path))
-        readImage(*name);
+    else
+        pick(*path);
 }
 
-void InstallSource::readImage(const QString& path) {
+void InstallSource::pick(const QString& image) {
+    if (const auto name = NameInCodePage(shared_, image))
+        readImage(*name, &ToolChannel::Tarn_Command);
+}
+
+bool InstallSource::pickOneOfMany(const QString& image) {
+    const bool answered = readImage(image, &ToolChannel::Tarn_Question);
+    forgetQuestion();
+    return answered;
+}
+
+bool InstallSource::readImage(const QString& path, Ask ask) {
     clearCompatibilityFlags(shared_.frmMain);
     forgetGame();
     ui::TextBox& txtISO = shared_.frmMain.txtISO;
@@ -110,9 +123,10 @@ void InstallSource::readImage(const QString& path) {
     txtISO.selectionStart = static_cast<int>(path.size());
     shared_.blnDiscInfo = true;
     try {
-        askForDiscInfo(ImageInfoCommand(path));
+        return askForDiscInfo(ImageInfoCommand(path), ask);
     } catch (const Fault&) {
         // An image that the tool cannot make sense of leaves the rest of the page for the user to fill in.
+        return true;
     }
 }
 
@@ -137,12 +151,13 @@ void InstallSource::forgetGame() {
     frmMain.lblDVD9.visible = false;
 }
 
-void InstallSource::askForDiscInfo(const QString& command) {
+bool InstallSource::askForDiscInfo(const QString& command, Ask ask) {
     const Hourglass hourglass(shared_.frmMain);
-    const QString answer = channel_.Tarn_Command(command);
+    const QString answer = (channel_.*ask)(command);
     interpreter_.ParseToolOutput(answer);
     if (answer.isEmpty())
         forgetQuestion();
+    return !answer.isEmpty();
 }
 
 void InstallSource::forgetQuestion() {
@@ -160,6 +175,11 @@ void InstallSource::pressKeyInName(int& key) {
     key = 0;
     if (shared_.frmMain.cmdAddGame.usable())
         shared_.frmMain.cmdAddGame.Click();
+}
+
+bool isInstallableImage(const QString& file) {
+    const QString extension = "|*." + QFileInfo(file).suffix().toLower() + '|';
+    return kInstallableImages.contains(extension);
 }
 
 bool requireSource(Shared& shared) {

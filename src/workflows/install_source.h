@@ -12,15 +12,23 @@ class InstallSource {
 public:
     InstallSource(Shared& shared, ToolChannel& channel, OutputInterpreter& interpreter);
 
+    /// Puts an image onto the page and asks the tool about it.
+    void pick(const QString& image);
+    /// The same for one of many images: nothing is told of a tool that does not answer. `image` has the name
+    /// that the tool knows. Returns whether there was an answer.
+    bool pickOneOfMany(const QString& image);
+
 private:
+    using Ask = QString (ToolChannel::*)(const QString& command);
+
     void chooseIso();
     void chooseOptical();
     void readDisc();
     void browse();
-    void readImage(const QString& path);
+    bool readImage(const QString& path, Ask ask);
     void forgetImage();
     void forgetGame();
-    void askForDiscInfo(const QString& command);
+    bool askForDiscInfo(const QString& command, Ask ask = &ToolChannel::Tarn_Command);
     void forgetQuestion();
     void openFlagsMenu();
     void pressKeyInName(int& key);
@@ -29,6 +37,9 @@ private:
     ToolChannel& channel_;
     OutputInterpreter& interpreter_;
 };
+
+/// Whether a file is of a kind that Browse offers, by its name.
+bool isInstallableImage(const QString& file);
 
 /// Asks the user for an image or a drive. Returns whether one is chosen.
 bool requireSource(Shared& shared);

@@ -6,10 +6,13 @@ QString DeviceOnView(const ui::FrmMain& form) {
     return form.optLocal.value ? form.cmbHD.text() : form.txtIP.text;
 }
 
+bool isChosenDisk(const ui::FrmMain& form, const QString& deviceOfGame) {
+    return !form.optLocal.value || deviceOfGame == DeviceOnView(form);
+}
+
 bool requireListedDisk(Shared& shared, const QString& deviceOfGame) {
-    const ui::FrmMain& form = shared.frmMain;
-    const QString chosen = DeviceOnView(form);
-    if (!form.optLocal.value || deviceOfGame == chosen)
+    const QString chosen = DeviceOnView(shared.frmMain);
+    if (isChosenDisk(shared.frmMain, deviceOfGame))
         return true;
     shared.message("The list shows the games of " + deviceOfGame + ", but " +
                    (chosen.isEmpty() ? QStringLiteral("no disk") : chosen) +

@@ -25,9 +25,12 @@ private:
 /// The device that is in use as the window names it: the address, or the entry of the chosen disk.
 QString DeviceOnView(const ui::FrmMain& form);
 
+/// Whether what was read from this device belongs to the one that is chosen now. A console is always the
+/// same, because all is emptied when its address changes.
+bool isChosenDisk(const ui::FrmMain& form, const QString& deviceOfGame);
+
 /// Tells the user that a game, or the free space, was read from another disk than the one that is chosen now.
-/// Returns whether it is the same. A console is always the same, because all is emptied when its address
-/// changes.
+/// Returns whether it is the same.
 bool requireListedDisk(Shared& shared, const QString& deviceOfGame);
 
 } // namespace tarnwell

@@ -299,3 +299,47 @@ TEST_F(ToolChannelTest, AMissingToolIsTold) {
     EXPECT_EQ(lastMessage(),
               "tarnwell.exe was not found. Place it in the same directory as this program and try again.");
 }
+
+TEST_F(ToolChannelTest, OfManyQuestionsNobodyIsToldThatOneWasNotAnswered) {
+    EXPECT_EQ(channel.Tarn_Question("cdvd_info2 a"), "");
+    EXPECT_EQ(ports.launcher.children.size(), 4u);
+    EXPECT_TRUE(ports.dialogs.messages.empty());
+    ports.launcher.on("cdvd_info2 b", QByteArray("answer"));
+    EXPECT_EQ(channel.Tarn_Question("cdvd_info2 b"), "answer");
+}
+
+TEST_F(ToolChannelTest, AQuestionThatIsDroppedIsInterruptedAndNotAskedAgain) {
+    ports.launcher.on("cdvd_info2", ChildScript{.endsAtMs = 60'000, .farewell = {}});
+    ports.pump.after(100, [this] { channel.dropQuestion(); });
+    const qint64 start = ports.clock.now;
+    EXPECT_EQ(channel.Tarn_Question("cdvd_info2 a"), "");
+    EXPECT_LT(ports.clock.now - start, 500);
+    ASSERT_EQ(ports.launcher.children.size(), 1u);
+    EXPECT_EQ(ports.launcher.children[0]->interrupts, 1);
+}
+
+TEST_F(ToolChannelTest, AnInterruptThatIsRefusedCanBeTriedAgain) {
+    ports.launcher.on("cdvd_info2", ChildScript{.endsAtMs = 60'000, .hearsInterrupt = false});
+    ports.pump.after(100, [this] { channel.dropQuestion(); });
+    ports.pump.after(1000, [this] {
+        ports.launcher.children[0]->script.hearsInterrupt = true;
+        channel.dropQuestion();
+    });
+    const qint64 start = ports.clock.now;
+    channel.Tarn_Question("cdvd_info2 a");
+    EXPECT_LT(ports.clock.now - start, 2000);
+}
+
+TEST_F(ToolChannelTest, DroppingAQuestionDisturbsNoOtherCommand) {
+    ports.launcher.on("inject_dvd", ChildScript{.output = {{"1%\r\n"}}, .endsAtMs = 5000});
+    ports.pump.after(100, [this] { channel.dropQuestion(); });
+    channel.Tarn_Command("inject_dvd x");
+    // Nor one that runs in the pause between two attempts at the question.
+    ports.pump.after(500, [this] { channel.Tarn_Execute("initialize hdd1:"); });
+    ports.launcher.on("initialize", ChildScript{.endsAtMs = 5000});
+    ports.pump.after(1000, [this] { channel.dropQuestion(); });
+    channel.Tarn_Question("cdvd_info2 a");
+    for (const auto& child : ports.launcher.children)
+        EXPECT_EQ(child->interrupts, 0) << child->commandLine.toStdString();
+    EXPECT_EQ(ports.launcher.children.size(), 3u);
+}

@@ -5,8 +5,12 @@
 #include <QColorDialog>
 #include <QFontDialog>
 #include <QInputDialog>
+#include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QProgressBar>
+#include <QPushButton>
 
 namespace tarnwell {
 namespace {
@@ -104,6 +108,75 @@ TEST_F(DialogsTest, TheEndOfTheProgramClosesAnOpenDialogAndItsHandlerGoesNoFurth
         EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
         EXPECT_THROW(open(dialogs), ProgramEnded) << "and none is opened any more";
     }
+}
+
+/// A box that shows how far a thing has come.
+class ProgressBoxTest : public DialogsTest {
+protected:
+    void open() {
+        box_ = dialogs_.progress("Add to Job Queue", [this] { ++cancels_; });
+        box_->show("Reading a.iso", 3, 100);
+        pump_.pump();
+    }
+    static QDialog& shown() {
+        auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (!dialog)
+            throw std::runtime_error("no box is up");
+        return *dialog;
+    }
+    template <class Widget>
+    static Widget& part() {
+        return *shown().findChild<Widget*>();
+    }
+
+    static void press(Qt::Key key) {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+        QApplication::sendEvent(&shown(), &event);
+    }
+
+    QWidget window_;
+    std::unique_ptr<ProgressBox> box_;
+    int cancels_ = 0;
+};
+
+TEST_F(ProgressBoxTest, ShowsWhatIsUnderWayAndHowFarItHasCome) {
+    open();
+    EXPECT_EQ(shown().windowTitle(), "Add to Job Queue");
+    EXPECT_EQ(part<QLabel>().text(), "Reading a.iso");
+    EXPECT_EQ(part<QProgressBar>().value(), 3);
+    EXPECT_EQ(part<QProgressBar>().maximum(), 100);
+    const QSize size = shown().size();
+    box_->show("Reading " + QString(300, 'x') + ".iso", 4, 100);
+    pump_.pump();
+    EXPECT_EQ(shown().size(), size);
+    EXPECT_TRUE(part<QLabel>().text().endsWith(".iso"));
+    EXPECT_EQ(part<QProgressBar>().value(), 4);
+}
+
+TEST_F(ProgressBoxTest, ShowsThatNobodyKnowsHowFar) {
+    open();
+    box_->show("Looking for images", 0, 0);
+    EXPECT_EQ(part<QProgressBar>().maximum(), 0);
+}
+
+TEST_F(ProgressBoxTest, StaysUntilItsOwnerTakesItAway) {
+    open();
+    part<QPushButton>().click();
+    press(Qt::Key_Escape);
+    shown().close();
+    pump_.pump();
+    EXPECT_EQ(cancels_, 3);
+    EXPECT_TRUE(shown().isVisible());
+    box_.reset();
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST_F(ProgressBoxTest, KeepsTheUserFromTheOtherWindows) {
+    window_.show();
+    pump_.pump();
+    open();
+    EXPECT_TRUE(shown().isModal());
+    EXPECT_EQ(shown().windowModality(), Qt::ApplicationModal);
 }
 
 /// The user is at another program, while this one has some windows up.

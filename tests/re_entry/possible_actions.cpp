@@ -11,8 +11,8 @@ const char* const kTexts[] = {"", " ", "192.168.0.10", "10.0.0.9", "Some Game", 
 
 } // namespace
 
-PossibleActions::PossibleActions(Shared& shared, FakeTray& tray, Random& random)
-    : shared_(shared), tray_(tray), random_(random) {
+PossibleActions::PossibleActions(Shared& shared, FakePorts& ports, Random& random)
+    : shared_(shared), ports_(ports), random_(random) {
     for (ui::Form* form : forms()) {
         form->menuWanted.connect([this](ui::PopupMenu& menu, const ui::Control&) { openMenu_ = &menu; });
         for (ui::PopupMenu* menu : form->menus()) {
@@ -28,6 +28,8 @@ std::vector<Action> PossibleActions::all(bool boxIsOpen) {
         for (ui::Form* form : forms())
             addForm(*form);
     }
+    if (ports_.dialogs.cancelProgress)
+        add("cancel the reading", [this] { ports_.dialogs.cancelProgress(); });
     addTray();
     addOpenMenu();
     return std::move(actions_);
@@ -61,6 +63,19 @@ void PossibleActions::addForm(ui::Form& form) {
         if (control->usable())
             addControl(*control);
     }
+    if (&form == &shared_.frmMain) {
+        addDrop("an image", {imageIn("chosen.iso")});
+        addDrop("images", {imageIn("chosen.iso"), imageIn("lantern.iso")});
+    }
+}
+
+QString PossibleActions::imageIn(const QString& name) const {
+    return ports_.folders.folder + '/' + name;
+}
+
+void PossibleActions::addDrop(const QString& name, const QStringList& files) {
+    if (ui::takesFiles(shared_.frmMain, files))
+        add("drop " + name, [this, files] { ui::dropFiles(shared_.frmMain, files); });
 }
 
 void PossibleActions::addControl(ui::Control& control) {

@@ -19,7 +19,7 @@ struct Action {
 /// until something else is clicked.
 class PossibleActions {
 public:
-    PossibleActions(Shared& shared, FakeTray& tray, Random& random);
+    PossibleActions(Shared& shared, FakePorts& ports, Random& random);
 
     /// All that can be done to the windows, the tray and the open menu. While a box is open only the tray and
     /// its menu are in reach.
@@ -29,6 +29,8 @@ public:
 
 private:
     void addForm(ui::Form& form);
+    QString imageIn(const QString& name) const;
+    void addDrop(const QString& name, const QStringList& files);
     void addControl(ui::Control& control);
     void addTextBox(ui::TextBox& box);
     void addList(ui::ListView& list);
@@ -39,7 +41,8 @@ private:
     std::vector<ui::Form*> forms() const;
 
     Shared& shared_;
-    FakeTray& tray_;
+    FakePorts& ports_;
+    FakeTray& tray_ = ports_.tray;
     Random& random_;
     ui::PopupMenu* openMenu_ = nullptr;
     std::vector<Action> actions_;

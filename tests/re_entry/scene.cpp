@@ -29,6 +29,8 @@ Scene::Scene(std::uint32_t seed) : random(seed) {
     QFile file(path("tarnwell.exe"));
     if (file.open(QIODevice::WriteOnly))
         file.write("the tool");
+    for (const char* image : {"chosen.iso", "lantern.iso"})
+        demand(QFile(path(image)).open(QIODevice::WriteOnly), "an image to be dropped");
     ports.launcher.script = [this](const QString& commandLine) { return startTool(commandLine); };
     ports.pump.whileWaiting = [this] { wait(false); };
     ports.dialogs.whileOpen = [this] { wait(true); };
@@ -120,6 +122,7 @@ void Scene::answerBox() {
 /// All handlers have returned.
 void Scene::lookAtRest() {
     demand(!shared.blnInstallRunning, "blnInstallRunning stands");
+    demand(!ports.dialogs.cancelProgress, "a box of progress stays");
     demand(!shared.blnQueryHD && !shared.blnQueryOptical && !shared.blnQuerySettings,
            "a query still waits for its answer");
     demand(frmMain.mousePointer == ui::MousePointer::Default, "the hourglass stays on frmMain");

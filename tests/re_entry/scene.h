@@ -60,7 +60,7 @@ private:
     void demand(bool holds, const std::string& what);
     void demandControlsAsDeclared();
 
-    PossibleActions actions_{shared, ports.tray, random};
+    PossibleActions actions_{shared, ports, random};
     User user_ = User::DoesAnything;
     std::set<int> due_;
     bool loose_ = false;

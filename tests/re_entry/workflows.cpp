@@ -128,6 +128,10 @@ void disksListed(Scene& scene) {
     must(ui::choose(scene.frmSettings.cmbHD, 0), "a disk");
 }
 
+void dropImages(Scene& scene) {
+    must(ui::dropFiles(scene.frmMain, {scene.path("lantern.iso"), scene.path("chosen.iso")}), "a drop");
+}
+
 void consoleToBeTurnedOff(Scene& scene) {
     consoleListed(scene);
     powerActionsWanted(scene);
@@ -143,6 +147,8 @@ const std::vector<Workflow>& workflows() {
         {"choose the local disks", consoleListed, [](Scene& s) { ui::click(s.frmMain.optLocal); }},
         {"turn the console off", consoleListed, [](Scene& s) { ui::click(s.frmMain.cmdShutdownPS2); }},
         {"pick an image", consoleListed, [](Scene& s) { ui::click(s.frmMain.cmdISO); }},
+        {"drop images onto a console", consoleListed, dropImages},
+        {"drop images onto a disk", diskListed, dropImages},
         {"choose the drives", consoleListed, [](Scene& s) { ui::click(s.frmMain.optOptical); }},
         {"read a disc", discRead, [](Scene& s) { ui::choose(s.frmMain.cmbOptical, 0); }},
         {"install onto a console", imagePickedAndPowerActionsWanted,

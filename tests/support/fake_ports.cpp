@@ -240,6 +240,25 @@ std::optional<std::int32_t> FakeDialogs::chooseColor(std::int32_t current) {
     return take(chooseColorAnswers);
 }
 
+std::unique_ptr<ProgressBox> FakeDialogs::progress(const QString& title, std::function<void()> cancel) {
+    class Box : public ProgressBox {
+    public:
+        Box(FakeDialogs& dialogs, QString title) : dialogs_(dialogs), title_(std::move(title)) {}
+        ~Box() override { dialogs_.cancelProgress = nullptr; }
+        Box(const Box&) = delete;
+        Box& operator=(const Box&) = delete;
+        void show(const QString& text, int done, int steps) override {
+            dialogs_.progressSteps.push_back({title_, text, done, steps});
+        }
+
+    private:
+        FakeDialogs& dialogs_;
+        const QString title_;
+    };
+    cancelProgress = std::move(cancel);
+    return std::make_unique<Box>(*this, title);
+}
+
 void FakeDialogs::waitForUser() const {
     if (whileOpen)
         whileOpen();

@@ -156,7 +156,13 @@ public:
     std::deque<std::optional<ui::Font>> chooseFontAnswers;      ///< used up one by one; then the user cancels
     std::vector<std::int32_t> chooseColorRequests;              ///< the colours that the dialog started at
     std::deque<std::optional<std::int32_t>> chooseColorAnswers; ///< used up one by one; then the user cancels
-    std::function<void()> whileOpen;                            ///< what happens while a box is open
+    struct Progress {
+        QString title, text;
+        int done, steps;
+    };
+    std::vector<Progress> progressSteps;  ///< all that the progress boxes showed
+    std::function<void()> cancelProgress; ///< the user's Cancel, as long as such a box is up
+    std::function<void()> whileOpen;      ///< what happens while a box is open
 
     QStringList messageTexts() const;
 
@@ -168,6 +174,7 @@ public:
     std::optional<QString> chooseFolder(const ChooseFolderRequest& request) override;
     std::optional<ui::Font> chooseFont(const ui::Font& current) override;
     std::optional<std::int32_t> chooseColor(std::int32_t current) override;
+    std::unique_ptr<ProgressBox> progress(const QString& title, std::function<void()> cancel) override;
 
 private:
     void waitForUser() const;

@@ -2,6 +2,7 @@
 
 #include "platform/qt/file_filter.h"
 #include "platform/qt/message_text.h"
+#include "platform/qt/qt_progress_box.h"
 #include "ui/one_line.h"
 
 #include <QApplication>
@@ -167,6 +168,10 @@ std::optional<std::int32_t> QtDialogs::chooseColor(std::int32_t current) {
         return std::nullopt;
     const QColor color = dialog.selectedColor();
     return color.blue() << 16 | color.green() << 8 | color.red();
+}
+
+std::unique_ptr<ProgressBox> QtDialogs::progress(const QString& title, std::function<void()> cancel) {
+    return std::make_unique<QtProgressBox>(windowOfTheUser(), title, std::move(cancel));
 }
 
 QString QtDialogs::startFolder(const QString& wanted, const QString& filter) const {

@@ -26,6 +26,7 @@ public:
     std::optional<QString> chooseFolder(const ChooseFolderRequest& request) override;
     std::optional<ui::Font> chooseFont(const ui::Font& current) override;
     std::optional<std::int32_t> chooseColor(std::int32_t current) override;
+    std::unique_ptr<ProgressBox> progress(const QString& title, std::function<void()> cancel) override;
 
 private:
     int waitFor(QDialog& dialog) const;

@@ -2,6 +2,7 @@
 #include "ui/qt/captions.h"
 #include "ui/qt/chosen_labels.h"
 #include "ui/qt/desktop_theme.h"
+#include "ui/qt/dropped_files.h"
 #include "ui/qt/event_watcher.h"
 #include "ui/qt/list_columns.h"
 #include "ui/qt/list_rows_model.h"
@@ -58,6 +59,14 @@ public:
         QToolTip::showText(event->globalPos(), isCut ? plainToolTip(index.data().toString()) : QString(),
                            view);
         return true;
+    }
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override {
+        QWidget* const editor = QStyledItemDelegate::createEditor(parent, option, index);
+        if (editor)
+            new EventWatcher(*editor, &leavesFilesToWindow);
+        return editor;
     }
 
     void setModelData(QWidget* editor, QAbstractItemModel*, const QModelIndex& index) const override {

@@ -1,4 +1,5 @@
 #include "ui/qt/bind_controls.h"
+#include "ui/qt/dropped_files.h"
 #include "ui/qt/event_watcher.h"
 #include "ui/user_actions.h"
 
@@ -21,6 +22,8 @@ bool isClick(QEvent& event) {
 /// the caret needs no work here.
 void watchUser(Binding& binding, ui::TextBox& box, QWidget& widget) {
     new EventWatcher(widget, [&binding, &box](QEvent& event) {
+        if (leavesFilesToWindow(event))
+            return true;
         if (event.type() == QEvent::FocusIn && !binding.showing()) {
             ui::focus(box);
         } else if (isClick(event)) {
@@ -112,7 +115,7 @@ QWidget* bindSeveralLines(Binding& binding, ui::TextBox& box, QWidget* parent) {
     new EventWatcher(*edit->viewport(), [&box](QEvent& event) {
         if (isClick(event))
             ui::click(box);
-        return false;
+        return leavesFilesToWindow(event);
     });
     return edit;
 }
