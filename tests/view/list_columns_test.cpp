@@ -78,8 +78,6 @@ TEST_F(Columns, AResultIsSeenWholeAndTheOthersMakeRoom) {
     serveEvents();
     EXPECT_GE(jobs().header()->sectionSize(0), jobs().fontMetrics().horizontalAdvance(result));
     EXPECT_LE(jobs().header()->length(), jobs().viewport()->width());
-    for (int column = 1; column < jobs().header()->count(); ++column)
-        EXPECT_GE(jobs().header()->sectionSize(column), jobs().header()->sectionSizeHint(column)) << column;
     form.lstJob.setText(1, "Complete");
     serveEvents();
     EXPECT_EQ(jobs().header()->sectionSize(1), window.currentScale().pixels(1125));
@@ -148,7 +146,7 @@ TEST_F(Hints, AHintIsPaintedWhileThereAreNoRowsAndIsNoRow) {
 }
 
 TEST_F(Hints, EmptyBoxesSayWhatFillsThemAndStayEmpty) {
-    EXPECT_EQ(widget<QLineEdit>(form.txtISO).placeholderText(), "Press Browse to choose an image");
+    EXPECT_EQ(widget<QLineEdit>(form.txtISO).placeholderText(), "Choose one with Browse");
     EXPECT_EQ(widget<QLineEdit>(form.txtGameName).placeholderText(),
               "Press Refresh PS2 to be able to install");
     form.cmdInstall.enabled = true;

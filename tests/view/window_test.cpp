@@ -5,6 +5,9 @@
 
 #include <QGroupBox>
 #include <QPainter>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QWindow>
 
 namespace tarnwell::view {
@@ -82,6 +85,101 @@ TEST_F(Window, ResizingByTheUserIsReportedAndGrowsTheLists) {
     EXPECT_EQ(form.width, window.currentScale().twips(window.width()) + 90);
     EXPECT_EQ(form.height, height);
     EXPECT_EQ(widget<QGroupBox>(form.fmInstall).width(), before + 150);
+}
+
+/// A window on the screen of a small laptop.
+class SmallScreen : public MainWindow {
+protected:
+    SmallScreen() {
+        if (QGuiApplication::screens().size() < 2)
+            return;
+        small_ = QGuiApplication::screens().at(1);
+        window.move(room().topLeft() + QPoint(40, 300));
+        serveEvents();
+    }
+
+    QRect room() const { return small_->availableGeometry(); }
+    QScrollArea& face() { return *window.findChild<QScrollArea*>(QString(), Qt::FindDirectChildrenOnly); }
+
+    const QScreen* small_ = nullptr;
+};
+
+TEST_F(SmallScreen, TheWindowMovesUpWhenTheActivityWouldReachBelowTheScreen) {
+    if (!small_)
+        GTEST_SKIP() << "no second screen";
+    window.move(room().left() + 40, room().bottom() - window.height() - 10);
+    serveEvents();
+    const int left = window.x();
+    form.height = ui::FrmMain::kTallHeight;
+    serveEvents();
+    EXPECT_TRUE(room().contains(window.frameGeometry()));
+    EXPECT_EQ(window.x(), left);
+    EXPECT_EQ(window.currentScale().pixels(form.top), window.y()) << "the program knows of it";
+    EXPECT_FALSE(face().verticalScrollBar()->isVisible());
+    EXPECT_EQ(form.height, ui::FrmMain::kTallHeight);
+}
+
+TEST_F(Window, TheUsersHeightHasNoEndAndTheListTakesIt) {
+    samples::games(form, 12);
+    serveEvents();
+    const int listBefore = widget<QWidget>(form.lstHD).height();
+    window.resize(window.width(), window.height() + 700);
+    serveEvents();
+    EXPECT_EQ(widget<QWidget>(form.lstHD).height(), listBefore + 700);
+    EXPECT_FALSE(widget<QGroupBox>(form.fmOutput).isVisible()) << "the program has not asked for it";
+}
+
+TEST_F(Window, WithTheActivityShownListAndActivityShareTheRoom) {
+    samples::games(form, 12);
+    samples::activity(form);
+    serveEvents();
+    const int list = widget<QWidget>(form.lstHD).height(), output = widget<QWidget>(form.txtOutput).height();
+    window.resize(window.width(), window.height() + 300);
+    serveEvents();
+    const int listGains = widget<QWidget>(form.lstHD).height() - list;
+    const int outputGains = widget<QWidget>(form.txtOutput).height() - output;
+    EXPECT_GT(listGains, 50);
+    EXPECT_GT(outputGains, 50);
+    EXPECT_EQ(listGains + outputGains, 300);
+}
+
+TEST_F(Window, WhatTheUserGaveStaysWhenTheActivityComesAndGoes) {
+    const QSize usual = window.size();
+    const QSize large = usual + QSize(120, 200);
+    window.resize(large);
+    serveEvents();
+    const int taller = window.currentScale().pixels(ui::FrmMain::kTallHeight - ui::FrmMain::kShortHeight);
+    form.height = ui::FrmMain::kTallHeight;
+    serveEvents();
+    EXPECT_EQ(window.width(), large.width());
+    EXPECT_NEAR(window.height(), large.height() + taller, 1);
+    form.height = ui::FrmMain::kShortHeight;
+    serveEvents();
+    EXPECT_EQ(window.size(), large);
+    samples::jobs(form);
+    form.fmJob.visible = false;
+    serveEvents();
+    EXPECT_EQ(window.size(), large);
+}
+
+TEST_F(Window, MaximisedItStaysSoAndItsPartsTakeTheRoom) {
+    samples::games(form, 12);
+    const QSize usual = window.size();
+    window.showMaximized();
+    serveEvents();
+    ASSERT_TRUE(window.isMaximized());
+    const QSize maximised = window.size();
+    EXPECT_GT(widget<QWidget>(form.lstHD).height(), usual.height());
+    form.height = ui::FrmMain::kTallHeight;
+    serveEvents();
+    EXPECT_TRUE(window.isMaximized());
+    EXPECT_EQ(window.size(), maximised);
+    EXPECT_TRUE(widget<QGroupBox>(form.fmOutput).isVisible());
+    window.showNormal();
+    serveEvents();
+    const int taller = window.currentScale().pixels(ui::FrmMain::kTallHeight - ui::FrmMain::kShortHeight);
+    EXPECT_EQ(window.width(), usual.width());
+    EXPECT_NEAR(window.height(), usual.height() + taller, 1);
 }
 
 TEST_F(Window, MovingGoesBothWays) {

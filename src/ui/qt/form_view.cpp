@@ -90,19 +90,20 @@ void FormView::applyScale(const TwipScale& scale) {
 }
 
 void FormView::followSize() {
-    binding().listen(form_.width.changed, *this, [this] { takeSize(); });
-    binding().listen(form_.height.changed, *this, [this] { takeSize(); });
+    // Only what the program sets counts: the other side holds what the user has made of it.
+    binding().listen(form_.width.changed, *this, [this] { takeSize({form_.width, programSize_.height()}); });
+    binding().listen(form_.height.changed, *this, [this] { takeSize({programSize_.width(), form_.height}); });
     // The user may have brought the window to the very height that the program asks for next.
     form_.height.assigned = [alive = QPointer(this)](bool changes) {
         if (!alive || changes)
             return;
         const Binding::Showing guard(alive->binding());
-        alive->takeSize();
+        alive->takeSize({alive->programSize_.width(), alive->form_.height});
     };
 }
 
-void FormView::takeSize() {
-    programSize_ = {form_.width, form_.height};
+void FormView::takeSize(const QSize& program) {
+    programSize_ = program;
     showSize();
     if (standsFree())
         reportSize();

@@ -49,7 +49,7 @@ private:
     TwipScale neededScale() const;
     void applyScale(const TwipScale& scale);
     void followSize();
-    void takeSize();
+    void takeSize(const QSize& program);
     void showSize();
     QSize normalSize() const;
     QSize roomOnScreen() const;

@@ -32,7 +32,7 @@ void hintAtJobs(ui::FrmMain& form, ControlBinder& controls) {
 
 void hintAtSource(ui::FrmMain& form, ControlBinder& controls) {
     static_cast<QLineEdit*>(controls.widget(form.txtISO))
-        ->setPlaceholderText(pressTo(form.cmdISO, "choose an image"));
+        ->setPlaceholderText(QStringLiteral("Choose one with %1").arg(shownCaption(form.cmdISO.caption)));
     static_cast<QComboBox*>(controls.widget(form.cmbOptical))
         ->setPlaceholderText("Choose the drive with the disc");
 }

@@ -232,6 +232,7 @@ WindowLayout::Heights MainWindowLayout::showHeight(int formHeight) {
     // The activity is uncovered by the height that the program gives, however tall the user makes the window.
     const bool tall = formHeight >= ui::FrmMain::kTallHeight;
     (*this)(form_.fmOutput)->setVisible(form_.fmOutput.visible && tall);
+    windowGrid_->setRowStretch(1, tall ? form_.fmOutput.height.get() : 0);
     return {tall ? ui::FrmMain::kTallHeight : ui::FrmMain::kShortHeight, kAnyHeight};
 }
 
