@@ -49,8 +49,6 @@ std::optional<QString> ToolChannel::ask(const QString& command) {
     for (int attempt = 1;; ++attempt) {
         if (StdIO_.Ready())
             answer = run(command);
-        if (dropped(command))
-            return QString();
         if (attempt == kAttempts)
             return std::nullopt;
         if (answeredWithinPause(command))
