@@ -23,7 +23,8 @@ int runChild(const QStringList& arguments) {
     } kChildren[] = {{"first-window", firstWindow},     {"progress-load", progressLoad},
                      {"command-delay", commandDelay},   {"interpreter-speed", interpreterSpeed},
                      {"game-list", gameList},           {"scale", scale},
-                     {"queue-overhead", queueOverhead}, {"status-pages", statusPages}};
+                     {"queue-overhead", queueOverhead}, {"dropped-images", droppedImages},
+                     {"status-pages", statusPages}};
     for (const auto& child : kChildren) {
         if (arguments.value(0) == child.name) {
             child.run(arguments.value(1).toInt());
@@ -45,7 +46,7 @@ int runAll(bool quick) {
     report.printHeadings();
     for (const auto measure :
          {measureFirstWindow, measurePeers, measureProgressLoad, measureCommandDelay, measureInterpreterSpeed,
-          measureGameList, measureScale, measureQueueOverhead, measureStatusPages})
+          measureGameList, measureScale, measureQueueOverhead, measureDroppedImages, measureStatusPages})
         measure(processes, effort, report);
     return report.complete() ? 0 : 1;
 }

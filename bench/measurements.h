@@ -24,6 +24,7 @@ void measureInterpreterSpeed(const FreshProcesses& processes, const Effort& effo
 void measureGameList(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measureScale(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measureQueueOverhead(const FreshProcesses& processes, const Effort& effort, Report& report);
+void measureDroppedImages(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measureStatusPages(const FreshProcesses& processes, const Effort& effort, Report& report);
 
 /// The children; `argument` is the part of the effort that concerns them.
@@ -34,6 +35,7 @@ void interpreterSpeed(int rounds);
 void gameList(int rounds);
 void scale(int rounds);
 void queueOverhead(int jobs);
+void droppedImages(int images);
 void statusPages(int rounds);
 
 } // namespace tarnwell::bench

@@ -1,5 +1,6 @@
 /// Stands in for the tool where its timing must be known exactly:
 ///   progress LINES-PER-SECOND SECONDS   prints progress lines, evenly spread
+///   cdvd_info2 IMAGE                    is asked about an image, and knows it at once
 ///   farewell MILLISECONDS               lives so long, prints the time in nanoseconds, and is gone
 ///   extract MILLISECONDS                lives so long, is a job that succeeds, and notes its start and its
 ///                                       end, in nanoseconds, in the file `stamps` beside it
@@ -43,6 +44,10 @@ static void farewell(int milliseconds) {
     std::_Exit(0);
 }
 
+static void discInfo() {
+    std::printf("DVD 4193280KB \"LANTERN\" \"SLUS_990.71\"\r\n");
+}
+
 static void extract(const char* program, int milliseconds) {
     const auto start = Clock::now();
     std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
@@ -69,6 +74,8 @@ static void work(const char* program) {
 int main(int argc, char** argv) {
     if (argc == 4 && argv[1] == std::string_view("progress"))
         progress(std::atoi(argv[2]), std::atoi(argv[3]));
+    else if (argc == 3 && argv[1] == std::string_view("cdvd_info2"))
+        discInfo();
     else if (argc == 3 && argv[1] == std::string_view("farewell"))
         farewell(std::atoi(argv[2]));
     else if (argc == 3 && argv[1] == std::string_view("extract") && argv[2] == std::string_view("work"))

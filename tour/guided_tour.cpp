@@ -18,6 +18,10 @@ const QString kFileExists = QStringLiteral("Error (File already exists)");
 constexpr char kBriskly[] = "delay_ms_per_step = 15\n";
 constexpr int kChessDrive = 4;
 
+/// Images are read faster than anybody could see.
+constexpr char kUnhurriedly[] = "[cdvd_info2]\nstart_delay_ms = 400\n";
+constexpr std::chrono::milliseconds kTwoAreRead{1000};
+
 /// The dialog for files sorts its list some time after it has opened.
 constexpr std::chrono::milliseconds kDialogSettles{400};
 
@@ -48,6 +52,7 @@ void GuidedTour::play() {
     queueJobs();
     cancelQueue();
     completeQueue();
+    dropImages();
     lookAtSettings();
     changeLook();
     lookAtAbout();
@@ -178,6 +183,26 @@ void GuidedTour::completeQueue() {
     tell("queue-done", "All jobs are complete.");
     expect(!bench_.run({"tarn_toc", "hdd1:"}).contains("Lantern"), "the deleted game to be gone");
     expect(bench_.run({"tarn_toc", "hdd2:"}).contains(kGame), "the copy on the second disk");
+}
+
+void GuidedTour::dropImages() {
+    user_.click("cmdClear");
+    user_.waitUntilIdle();
+    bench_.behave(kUnhurriedly);
+    QStringList images;
+    for (const QString& name : QDir(samples_).entryList({"*.iso"}, QDir::Files, QDir::Name))
+        images += samples_ + '/' + name;
+    expect(images.size() == 5, "five sample images");
+    expect(user_.drop("lstJob", images), "the window to take the images");
+    std::this_thread::sleep_for(kTwoAreRead);
+    tell("images-read", "Five images are dropped onto the window, and read one after the other.");
+    user_.waitFor("a message", [this] { return user_.messageUp(); });
+    tell("images-told", "What was added, and what was not.");
+    const QString told = user_.confirmMessage();
+    expect(told.startsWith("4 of 5 images"), "four games among the images: " + told);
+    user_.waitUntilIdle();
+    expectResults({"Pending", "Pending", "Pending", "Pending"});
+    tell("images-queued", "All games among them wait in the queue; nothing has started.");
 }
 
 void GuidedTour::queueInstall() {

@@ -29,6 +29,7 @@ private:
     void queueJobs();
     void cancelQueue();
     void completeQueue();
+    void dropImages();
     void lookAtSettings();
     void changeLook();
     void lookAtAbout();

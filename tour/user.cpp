@@ -15,6 +15,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QPointer>
@@ -23,6 +24,8 @@
 #include <QTabBar>
 #include <QTest>
 #include <QTreeView>
+#include <QUrl>
+#include <QWindow>
 
 #include <thread>
 
@@ -114,6 +117,27 @@ void typeInto(QWidget& widget, const QString& text) {
     sendKey(widget, Qt::Key_Delete);
     for (const QChar letter : text)
         sendKey(widget, Qt::Key_unknown, {}, letter);
+}
+
+bool sendDrop(const QWidget& widget, const QStringList& files) {
+    QMimeData dragged;
+    QList<QUrl> urls;
+    for (const QString& file : files)
+        urls += QUrl::fromLocalFile(file);
+    dragged.setUrls(urls);
+    constexpr auto kAllowed = Qt::CopyAction | Qt::MoveAction | Qt::LinkAction;
+    const QPoint place = widget.mapTo(widget.window(), widget.rect().center());
+    QWindow* const window = widget.window()->windowHandle();
+    QDragEnterEvent enter(place, kAllowed, &dragged, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window, &enter);
+    if (enter.isAccepted()) {
+        QDropEvent drop(place, kAllowed, &dragged, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(window, &drop);
+        return drop.isAccepted();
+    }
+    QDragLeaveEvent leave;
+    QApplication::sendEvent(window, &leave);
+    return false;
 }
 
 QModelIndex rowWith(const QAbstractItemModel& model, const QString& text) {
@@ -370,6 +394,20 @@ void User::editLabel(const QString& list, const QString& text) {
         // The edited text reaches the program by an event of its own.
         QCoreApplication::processEvents();
     });
+}
+
+bool User::drop(const QString& name, const QStringList& files) {
+    auto* const target = look([&] { return &widget(name); });
+    const auto taken = std::make_shared<std::promise<bool>>();
+    auto answer = taken->get_future();
+    act([target, files, taken] {
+        taken->set_value(sendDrop(*target, files));
+        // What the drop starts comes with an event of its own.
+        QCoreApplication::processEvents();
+    });
+    if (answer.wait_for(kPatience) != std::future_status::ready)
+        throw Stuck("The window does not answer.");
+    return answer.get();
 }
 
 void User::closeWindow(const QString& form) {

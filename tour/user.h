@@ -65,6 +65,9 @@ public:
     void rightClickBelowRows(const QString& list);
     /// Edits the label of the selected row.
     void editLabel(const QString& list, const QString& text);
+    /// Drags files from the desktop onto the middle of a control and lets them go. Returns whether the window
+    /// took them.
+    bool drop(const QString& name, const QStringList& files);
     /// Presses the close box of a window.
     void closeWindow(const QString& form);
     /// As with a click in the desktop's list of windows, or on the tray icon if only that is left.
