@@ -41,7 +41,7 @@ struct DroppedImages : ProgramTest {
         return names;
     }
     /// The commands that reach the tool while a box is up or an image is read.
-    void whenToolRuns(const QString& part, std::function<void()> act) {
+    void whenToolRuns(const QString& part, const std::function<void()>& act) {
         const auto usual = ports.launcher.script;
         ports.launcher.script = [=, this](const QString& line) {
             if (line.contains(part))

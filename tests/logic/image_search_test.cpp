@@ -13,7 +13,7 @@ namespace {
 
 struct ImageSearchTest : testing::Test {
     QString make(const QString& name) const {
-        const QString path = folder_.filePath(name);
+        QString path = folder_.filePath(name);
         QDir().mkpath(QFileInfo(path).path());
         QFile file(path);
         EXPECT_TRUE(file.open(QFile::WriteOnly));
