@@ -1,6 +1,8 @@
 #include "end_to_end/session_end.h"
 #include "end_to_end/whole_program.h"
 
+#include <QApplication>
+
 #include <windows.h>
 
 namespace tarnwell::test {

@@ -8,9 +8,9 @@ namespace tarnwell::view {
 namespace {
 
 std::vector<int> widthsOf(const QHeaderView& header) {
-    std::vector<int> widths;
+    std::vector<int> widths(static_cast<std::size_t>(header.count()));
     for (int column = 0; column < header.count(); ++column)
-        widths.push_back(header.sectionSize(column));
+        widths[static_cast<std::size_t>(column)] = header.sectionSize(column);
     return widths;
 }
 
