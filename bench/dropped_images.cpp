@@ -12,7 +12,7 @@ namespace tarnwell::bench {
 
 namespace {
 
-constexpr double kTwoPassesMs = 60;
+constexpr double kMostMsAnImage = 60;
 
 QStringList makeImages(const QTemporaryDir& folder, int count) {
     QStringList images;
@@ -31,7 +31,7 @@ void measureDroppedImages(const FreshProcesses& processes, const Effort& effort,
     report.add({.what = QString("From a drop of %1 images to the filled queue").arg(effort.jobs),
                 .measured = filled ? figures[0] / kNanosecondsPerMillisecond : 0,
                 .unit = "ms",
-                .atMost = effort.jobs * kTwoPassesMs});
+                .atMost = effort.jobs * kMostMsAnImage});
 }
 
 void droppedImages(int images) {

@@ -15,14 +15,14 @@ constexpr int kVisitsPerSecond = 10;
 constexpr double kNanosecondsPerSecond = 1e9;
 
 bool fetchPage() {
-    constexpr int kPatienceMs = 1000;
+    constexpr int kAnswerMs = 1000;
     QTcpSocket socket;
     socket.connectToHost(QHostAddress::LocalHost, 80);
-    if (!socket.waitForConnected(kPatienceMs))
+    if (!socket.waitForConnected(kAnswerMs))
         return false;
     socket.write("GET / HTTP/1.1\r\nHost: localhost\r\n\r\n");
     QByteArray answer;
-    while (!answer.endsWith("</html>\r\n") && socket.waitForReadyRead(kPatienceMs))
+    while (!answer.endsWith("</html>\r\n") && socket.waitForReadyRead(kAnswerMs))
         answer += socket.readAll();
     return answer.startsWith("HTTP/1.0 200 OK\r\n") && answer.endsWith("</html>\r\n");
 }
