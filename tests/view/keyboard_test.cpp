@@ -287,6 +287,20 @@ TEST_F(OtherKeyboard, EscDuringWorkCancelsNothing) {
     expectAccessKeys(window, 5);
 }
 
+TEST_F(OtherKeyboard, EachWorkFindsTheFocusWhereAStrayBlankDoesNoHarm) {
+    ui::FrmStatus form;
+    StatusWindowView view{form};
+    samples::jobRunning(form);
+    opened(view).findChild<QWidget*>(form.chkShutdown.name)->setFocus(Qt::TabFocusReason);
+    form.hide();
+    form.chkShutdown.enabled = false;
+    form.chkShutdown.enabled = true;
+    form.show();
+    QWidget& window = opened(view);
+    QApplication::processEvents();
+    EXPECT_EQ(window.focusWidget()->objectName(), form.cmdMinimize.name);
+}
+
 TEST_F(OtherKeyboard, EscClosesTheAboutWindow) {
     ui::FrmAbout form;
     AboutWindowView view{form};

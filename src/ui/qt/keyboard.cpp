@@ -167,13 +167,12 @@ void bindKeyboard(ui::FrmSettings& form, ControlBinder& controls, QWidget& windo
     onKey(window, Qt::Key_F5, [&form] { ui::click(form.cmdRefresh); });
 }
 
-void bindKeyboard(ui::FrmStatus& form, ControlBinder& controls, QWidget& window) {
+void bindKeyboard(ui::FrmStatus& form, ControlBinder& controls, QWidget&) {
     giveAccessKeys(controls, {{form.cmdStop, "C"},
                               {form.cmdMinimize, "M"},
                               {form.chkShutdown, "S"},
                               {form.chkStandby, "B"},
                               {form.chkShutdownPS2, "P"}});
-    new FocusKeeper(controls.binding(), window);
 }
 
 void bindKeyboard(ui::FrmAbout& form, ControlBinder&, QWidget& window) {

@@ -16,7 +16,8 @@ void bindKeyboard(ui::FrmMain& form, ControlBinder& controls, QWidget& window);
 /// Esc leaves without saving, F5 looks for disks.
 void bindKeyboard(ui::FrmSettings& form, ControlBinder& controls, QWidget& window);
 
-/// Esc does nothing here: a stray key must not cancel hours of work.
+/// Esc does nothing here: a stray key must not cancel hours of work. Nor does the focus come back to what had
+/// it last: each work finds it where a stray blank does no harm.
 void bindKeyboard(ui::FrmStatus& form, ControlBinder& controls, QWidget& window);
 
 /// Esc closes.
