@@ -28,10 +28,10 @@ void centre(QWidget* link, QWidget* frame) {
 
 } // namespace
 
-AboutWindowLayout::AboutWindowLayout(ui::FrmAbout& form, ControlBinder& controls, QWidget& window)
-    : form_(form), controls_(controls), window_(window), picture_(new QLabel(&window)) {
+AboutWindowLayout::AboutWindowLayout(ui::FrmAbout& form, ControlBinder& controls, QWidget& content)
+    : form_(form), controls_(controls), content_(content), picture_(new QLabel(&content)) {
     const auto& widget = *this;
-    QVBoxLayout* rows = column(&window_);
+    QVBoxLayout* rows = column(&content_);
     rows->addLayout(title());
     rows->addWidget(widget(form_.Line1));
     rows->addLayout(links());
@@ -86,13 +86,13 @@ QLayout* AboutWindowLayout::links() {
 }
 
 double AboutWindowLayout::neededPixelsPerTwip() const {
-    return std::max(pixelsPerTwip(window_, kAboutWidth, kAboutHeight),
+    return std::max(pixelsPerTwip(content_, kAboutWidth, kAboutHeight),
                     pixelsPerTwip((*this)(form_.Label2)->font()));
 }
 
 void AboutWindowLayout::scaleTo(const TwipScale& scale) {
     const int size = scale.pixels(kPictureSize);
-    picture_->setPixmap(applicationIcon().pixmap({size, size}, window_.devicePixelRatioF()));
+    picture_->setPixmap(applicationIcon().pixmap({size, size}, content_.devicePixelRatioF()));
 }
 
 } // namespace tarnwell::view

@@ -10,7 +10,7 @@ namespace tarnwell::view {
 
 class AboutWindowLayout final : public WindowLayout {
 public:
-    AboutWindowLayout(ui::FrmAbout& form, ControlBinder& controls, QWidget& window);
+    AboutWindowLayout(ui::FrmAbout& form, ControlBinder& controls, QWidget& content);
 
     double neededPixelsPerTwip() const override;
     void scaleTo(const TwipScale& scale) override;
@@ -24,7 +24,7 @@ private:
 
     ui::FrmAbout& form_;
     ControlBinder& controls_;
-    QWidget& window_;
+    QWidget& content_;
     QLabel* picture_;
 };
 

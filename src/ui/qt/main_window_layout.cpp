@@ -18,9 +18,9 @@ constexpr int kBottomMargin = 65;
 
 } // namespace
 
-MainWindowLayout::MainWindowLayout(ui::FrmMain& form, ControlBinder& controls, QWidget& window)
+MainWindowLayout::MainWindowLayout(ui::FrmMain& form, ControlBinder& controls, QWidget& content)
     : form_(form), controls_(controls) {
-    layOutWindow(window);
+    layOutWindow(content);
     layOutDevice();
     layOutNavigation();
     layOutInstall();
@@ -31,9 +31,9 @@ MainWindowLayout::MainWindowLayout(ui::FrmMain& form, ControlBinder& controls, Q
     showHints(form, controls);
 }
 
-void MainWindowLayout::layOutWindow(QWidget& window) {
+void MainWindowLayout::layOutWindow(QWidget& content) {
     const auto& widget = *this;
-    pages_ = new QWidget(&window);
+    pages_ = new QWidget(&content);
     for (const ui::Frame* frame : {&form_.fmMain, &form_.fmNavigation, &form_.fmInstall, &form_.fmBrowse}) {
         widget(*frame)->setParent(pages_);
         widget(*frame)->setVisible(frame->visible);
@@ -51,7 +51,7 @@ void MainWindowLayout::layOutWindow(QWidget& window) {
     pagesGrid_->setColumnStretch(1, 1);
     widget(form_.fmInstall)->raise();
 
-    windowGrid_ = new QGridLayout(&window);
+    windowGrid_ = new QGridLayout(&content);
     windowGrid_->addWidget(pages_, 0, 0);
     windowGrid_->addWidget(widget(form_.fmJob), 0, 0);
     windowGrid_->addWidget(widget(form_.fmOutput), 1, 0);

@@ -11,14 +11,14 @@ namespace tarnwell::view {
 
 class MainWindowLayout final : public WindowLayout {
 public:
-    MainWindowLayout(ui::FrmMain& form, ControlBinder& controls, QWidget& window);
+    MainWindowLayout(ui::FrmMain& form, ControlBinder& controls, QWidget& content);
 
     double neededPixelsPerTwip() const override;
     void scaleTo(const TwipScale& scale) override;
     Heights showHeight(int formHeight) override;
 
 private:
-    void layOutWindow(QWidget& window);
+    void layOutWindow(QWidget& content);
     void layOutDevice();
     void layOutNavigation();
     void layOutInstall();

@@ -14,8 +14,8 @@ constexpr int kSettingsHeight = 4035;
 
 } // namespace
 
-SettingsWindowLayout::SettingsWindowLayout(ui::FrmSettings& form, ControlBinder& controls, QWidget& window)
-    : form_(form), controls_(controls), window_(window) {
+SettingsWindowLayout::SettingsWindowLayout(ui::FrmSettings& form, ControlBinder& controls, QWidget& content)
+    : form_(form), controls_(controls), content_(content) {
     layOutTarnwell();
     layOutGui();
     layOutTools();
@@ -102,7 +102,7 @@ void SettingsWindowLayout::layOutTools() {
 
 void SettingsWindowLayout::layOutWindow() {
     const auto& widget = *this;
-    auto* pane = new QFrame(&window_);
+    auto* pane = new QFrame(&content_);
     pane->setFrameStyle(QFrame::StyledPanel | QFrame::Raised);
     auto* pages = new QGridLayout(pane);
     pages->setContentsMargins(0, 0, 0, 0);
@@ -113,7 +113,7 @@ void SettingsWindowLayout::layOutWindow() {
         page->setVisible(frame->visible);
     }
 
-    QVBoxLayout* window = column(&window_);
+    QVBoxLayout* window = column(&content_);
     window->addWidget(widget(form_.TabStrip));
     window->addWidget(pane, 1);
     window->addSpacing(kGap);
@@ -123,7 +123,7 @@ void SettingsWindowLayout::layOutWindow() {
 }
 
 double SettingsWindowLayout::neededPixelsPerTwip() const {
-    return std::max(pixelsPerTwip(window_, kSettingsWidth, kSettingsHeight),
+    return std::max(pixelsPerTwip(content_, kSettingsWidth, kSettingsHeight),
                     pixelsPerTwip((*this)(form_.txtApplicationData)->font()));
 }
 

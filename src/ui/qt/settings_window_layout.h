@@ -11,7 +11,7 @@ namespace tarnwell::view {
 /// Three pages over one another under the tabs, and the buttons that belong to none of them.
 class SettingsWindowLayout final : public WindowLayout {
 public:
-    SettingsWindowLayout(ui::FrmSettings& form, ControlBinder& controls, QWidget& window);
+    SettingsWindowLayout(ui::FrmSettings& form, ControlBinder& controls, QWidget& content);
 
     double neededPixelsPerTwip() const override;
     void scaleTo(const TwipScale&) override {}
@@ -28,7 +28,7 @@ private:
 
     ui::FrmSettings& form_;
     ControlBinder& controls_;
-    QWidget& window_;
+    QWidget& content_;
 };
 
 } // namespace tarnwell::view

@@ -15,8 +15,8 @@ constexpr int kStatusHeight = 3555;
 
 } // namespace
 
-StatusWindowLayout::StatusWindowLayout(ui::FrmStatus& form, ControlBinder& controls, QWidget& window)
-    : form_(form), controls_(controls), window_(window) {
+StatusWindowLayout::StatusWindowLayout(ui::FrmStatus& form, ControlBinder& controls, QWidget& content)
+    : form_(form), controls_(controls), content_(content) {
     layOutOverall();
     layOutCurrent();
     layOutWindow();
@@ -62,14 +62,14 @@ void StatusWindowLayout::layOutWindow() {
     choices->insertStretch(3);
     choices->setContentsMargins(kFrameMargin, 0, kFrameMargin, 0);
 
-    QVBoxLayout* window = column(&window_);
+    QVBoxLayout* window = column(&content_);
     window->addWidget(widget(form_.fmOverall));
     window->addWidget(widget(form_.fmCurrent), 1);
     window->addWidget(widget(form_.lblFinish));
     window->addLayout(choices);
     window->addLayout(equalButtons({widget(form_.cmdStop), widget(form_.cmdMinimize)}));
     // It opens while the user may be typing; a stray blank must not choose that the PC be turned off.
-    new EventWatcher(window_, [harmless = widget(form_.cmdMinimize)](QEvent& event) {
+    new EventWatcher(content_, [harmless = widget(form_.cmdMinimize)](QEvent& event) {
         if (event.type() == QEvent::Show && !event.spontaneous())
             harmless->setFocus();
         return false;
@@ -77,7 +77,7 @@ void StatusWindowLayout::layOutWindow() {
 }
 
 double StatusWindowLayout::neededPixelsPerTwip() const {
-    return std::max(pixelsPerTwip(window_, kStatusWidth, kStatusHeight),
+    return std::max(pixelsPerTwip(content_, kStatusWidth, kStatusHeight),
                     pixelsPerTwip((*this)(form_.lblJob)->font()));
 }
 

@@ -9,7 +9,7 @@ namespace tarnwell::view {
 
 class StatusWindowLayout final : public WindowLayout {
 public:
-    StatusWindowLayout(ui::FrmStatus& form, ControlBinder& controls, QWidget& window);
+    StatusWindowLayout(ui::FrmStatus& form, ControlBinder& controls, QWidget& content);
 
     double neededPixelsPerTwip() const override;
     void scaleTo(const TwipScale&) override {}
@@ -24,8 +24,8 @@ private:
 
     ui::FrmStatus& form_;
     ControlBinder& controls_;
-    QWidget& window_;
-    PacedPainting pacedPainting_{window_}; ///< every line of the tool changes something here
+    QWidget& content_;
+    PacedPainting pacedPainting_{*content_.window()}; ///< every line of the tool changes something here
 };
 
 } // namespace tarnwell::view
