@@ -1,22 +1,13 @@
-#include "support/program_test.h"
+#include "logic/install_fixture.h"
 
 namespace tarnwell::test {
 namespace {
 
 /// Both windows are gone while a game is installed: how it went must be told when it has ended.
-class FailedInstall : public ProgramTest {
+class FailedInstall : public InstallTest {
 protected:
-    FailedInstall() {
-        answerQueryWith(kTwoDisks);
-        answerTocWith(kTwoGames);
-        answerDiscInfoWith("DVD 4193280KB \"LANTERN\" \"SLUS_990.71\"\r\n");
-        start();
-        ui::click(frmMain.cmdAttach);
-        ports.dialogs.openFileAnswers.push_back("/games/lantern.iso");
-        ui::click(frmMain.cmdISO);
-    }
     void install(const ChildScript& tool) {
-        ports.launcher.on("tarnwell.exe inject", tool);
+        answerInstallWith(tool);
         EXPECT_TRUE(ui::click(frmMain.cmdInstall));
     }
 };

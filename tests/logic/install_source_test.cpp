@@ -1,4 +1,4 @@
-#include "support/program_test.h"
+#include "logic/install_fixture.h"
 
 namespace tarnwell::test {
 
@@ -245,13 +245,7 @@ TEST_F(InstallSource, GoingToTheDrivesEmptiesThePageButNotTheHiddenSize) {
     frmMain.cmbType.listIndex = 0;
     EXPECT_TRUE(frmMain.lblDVD9.visible);
     ui::click(frmMain.optOptical);
-    EXPECT_EQ(frmMain.txtISO.text.get(), "");
-    EXPECT_EQ(frmMain.txtGameName.text.get(), "");
-    EXPECT_EQ(frmMain.txtGameStartup.text.get(), "");
-    EXPECT_EQ(frmMain.txtGameSize.text.get(), "");
-    EXPECT_EQ(frmMain.txtGameSize.tag.get(), "4095");
-    EXPECT_EQ(frmMain.cmbType.text(), "DVD-ROM");
-    EXPECT_FALSE(frmMain.lblDVD9.visible);
+    expectPageReset(frmMain);
     EXPECT_TRUE(frmMain.cmbOptical.enabled);
     EXPECT_FALSE(frmMain.cmdCompat.enabled);
 }

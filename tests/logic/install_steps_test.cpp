@@ -1,4 +1,4 @@
-#include "support/program_test.h"
+#include "logic/install_fixture.h"
 #include "ui/version.h"
 
 /// The order in which an install that is not queued goes about its work.
@@ -8,16 +8,10 @@ namespace {
 
 const QString kTitle = " Tarnwell GUI v" TARNWELL_VERSION " by mirelane";
 
-/// A game is ready to be installed onto the console; the windows write into the journal, too.
-struct InstallSteps : ProgramTest {
+/// The windows write into the journal, too.
+struct InstallSteps : InstallTest {
     InstallSteps() {
-        answerQueryWith(kTwoDisks);
-        answerTocWith(kTwoGames);
-        answerDiscInfoWith("DVD 4193280KB \"LANTERN\" \"SLUS_990.71\"\r\n");
-        ports.launcher.on("tarnwell.exe inject", {.output = {{"100%\r", 1000}}, .endsAtMs = 1100});
-        start();
-        ui::click(frmMain.cmdAttach);
-        pickImage();
+        answerInstallWith({.output = {{"100%\r", 1000}}, .endsAtMs = 1100});
         note(frmMain.visible, "main window");
         note(frmStatus->visible, "status window");
         note(frmMain.cmdAttach.enabled, "use of the main window");
@@ -25,10 +19,6 @@ struct InstallSteps : ProgramTest {
         ports.journal.clear();
     }
 
-    void pickImage() {
-        ports.dialogs.openFileAnswers.push_back("/games/lantern.iso");
-        ui::click(frmMain.cmdISO);
-    }
     void note(ui::Property<bool>& property, const QString& what) {
         property.changed.connect(
             [this, &property, what] { ports.journal += what + (property ? " on" : " off"); });

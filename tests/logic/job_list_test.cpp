@@ -1,3 +1,4 @@
+#include "logic/install_fixture.h"
 #include "logic/queue_test.h"
 #include "queue/job_list.h"
 
@@ -193,13 +194,7 @@ TEST_F(JobList, ThePageIsResetButFlagEightAndTheSizeBehindItStay) {
     for (std::size_t i = 0; i < 7; ++i)
         EXPECT_FALSE(frmMain.mnuFlags[i].checked);
     EXPECT_TRUE(frmMain.mnuFlags[7].checked);
-    EXPECT_EQ(frmMain.txtISO.text.get(), "");
-    EXPECT_EQ(frmMain.txtGameName.text.get(), "");
-    EXPECT_EQ(frmMain.txtGameStartup.text.get(), "");
-    EXPECT_EQ(frmMain.txtGameSize.text.get(), "");
-    EXPECT_EQ(frmMain.txtGameSize.tag.get(), "4095");
-    EXPECT_EQ(frmMain.cmbType.text(), "DVD-ROM");
-    EXPECT_FALSE(frmMain.lblDVD9.visible);
+    expectPageReset(frmMain);
     EXPECT_FALSE(frmMain.cmdCompat.enabled);
 }
 
