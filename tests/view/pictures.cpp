@@ -99,10 +99,12 @@ int main(int argc, char** argv) {
     const QPalette light = QApplication::palette();
     QApplication::setPalette(view::samples::darkPalette());
     allWindows(folder, "dark");
+    QApplication::setPalette(view::samples::blackPalette());
+    allWindows(folder, "black");
     QApplication::setPalette(light);
     QApplication::setFont(QFont("Tahoma", 8));
     allWindows(folder, "tahoma");
-    QApplication::setFont(QFont("DejaVu Sans", 14));
+    QApplication::setFont(QFont("DejaVu Sans", 16));
     allWindows(folder, "large");
     QApplication::setFont(QFont("DejaVu Sans", 9));
     QApplication::setLayoutDirection(Qt::RightToLeft);

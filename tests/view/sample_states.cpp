@@ -147,19 +147,37 @@ void ownLook(ui::Form& form) {
     }
 }
 
-QPalette darkPalette() {
-    const QColor ground(45, 45, 48), field(30, 30, 32), ink(235, 235, 235), off(125, 125, 128);
+namespace {
+
+QPalette inverted(const QColor& ground, const QColor& field, const QColor& ink, const QColor& off) {
     QPalette dark(ground);
     for (const auto role :
          {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
         dark.setColor(role, ink);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         dark.setColor(QPalette::Disabled, role, off);
+    dark.setColor(QPalette::PlaceholderText, off);
     dark.setColor(QPalette::Base, field);
+    return dark;
+}
+
+} // namespace
+
+QPalette darkPalette() {
+    QPalette dark =
+        inverted(QColor(45, 45, 48), QColor(30, 30, 32), QColor(235, 235, 235), QColor(125, 125, 128));
     dark.setColor(QPalette::Highlight, QColor(42, 110, 200));
     dark.setColor(QPalette::HighlightedText, Qt::white);
     dark.setColor(QPalette::Link, QColor(110, 170, 240));
     return dark;
+}
+
+QPalette blackPalette() {
+    QPalette black = inverted(Qt::black, Qt::black, Qt::white, QColor(63, 242, 63));
+    black.setColor(QPalette::Highlight, QColor(26, 235, 255));
+    black.setColor(QPalette::HighlightedText, Qt::black);
+    black.setColor(QPalette::Link, Qt::yellow);
+    return black;
 }
 
 } // namespace tarnwell::view::samples

@@ -26,5 +26,7 @@ void thanks(ui::FrmAbout& form);
 void ownLook(ui::Form& form);
 
 QPalette darkPalette();
+/// As for people who need a high contrast.
+QPalette blackPalette();
 
 } // namespace tarnwell::view::samples

@@ -70,8 +70,7 @@ QSize FilledBar::sizeHint() const {
 void FilledBar::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const QPalette& colors = palette();
-    painter.setPen(colors.color(QPalette::Window).darker(160));
-    painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+    drawOutline(painter, rect(), outlineOn(colors.color(QPalette::Window)));
 
     const QRect inside = rect().adjusted(kFrameWidth, kFrameWidth, -kFrameWidth, -kFrameWidth);
     QRect filled = inside;

@@ -1,6 +1,7 @@
 #include "ui/qt/form_view.h"
 
 #include "ui/qt/colors.h"
+#include "ui/qt/outlined_style.h"
 #include "ui/user_actions.h"
 
 #include <QBoxLayout>
@@ -55,10 +56,7 @@ void FormView::followForm() {
     binding().follow(form_.caption.changed, *this, [this] { setWindowTitle(form_.caption); });
     binding().follow(form_.mousePointer.changed, *this, [this] { showPointer(); });
     binding().listen(form_.backColor.changed, *this, [this] { showColor(); });
-    // A window that opens late has had its colour for a while.
-    if (form_.backColor.get())
-        showColor();
-    binding().listen(binding().themeChanged, *this, [this] { showColor(); });
+    binding().follow(binding().themeChanged, *this, [this] { showColor(); });
     followSize();
     binding().listen(form_.left.changed, *this, [this] { showPlace(); });
     binding().listen(form_.top.changed, *this, [this] { showPlace(); });
@@ -231,6 +229,7 @@ void FormView::showColor() {
             colors.setColor(group, QPalette::WindowText, contrasting(ground));
     }
     setPalette(colors);
+    keepOutlinesOn(palette().color(QPalette::Window));
 }
 
 void FormView::showPointer() {

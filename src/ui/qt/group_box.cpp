@@ -1,5 +1,7 @@
 #include "ui/qt/group_box.h"
 
+#include "ui/qt/colors.h"
+
 #include <QStyleOptionGroupBox>
 #include <QStylePainter>
 
@@ -7,27 +9,20 @@ namespace tarnwell::view {
 
 namespace {
 
-QColor mixed(const QColor& ground, const QColor& ink, double share) {
-    const auto mix = [&](double from, double to) { return static_cast<float>(from + (to - from) * share); };
-    return QColor::fromRgbF(mix(ground.redF(), ink.redF()), mix(ground.greenF(), ink.greenF()),
-                            mix(ground.blueF(), ink.blueF()));
-}
-
 /// In opaque colours: Qt starts threads to draw a translucent surface of this size. On a ground that the user
 /// has chosen nothing is shaded, because what stands on it is filled with the same colour.
 void drawFrame(QPainter& painter, const QRect& frame, const QPalette& palette) {
-    constexpr double kShade = 0.03, kOutline = 0.18;
+    constexpr double kShade = 0.03, kOutline = 0.18, kOutlineOnDark = 0.3;
     const QColor ground = palette.color(QPalette::Window), ink = palette.color(QPalette::WindowText);
     const bool chosen = palette.isBrushSet(QPalette::Active, QPalette::Window);
     painter.fillRect(frame, chosen ? ground : mixed(ground, ink, kShade));
-    painter.setPen(mixed(ground, ink, kOutline));
-    painter.drawRect(frame.adjusted(0, 0, -1, -1));
+    drawOutline(painter, frame, mixed(ground, ink, isDark(ground) ? kOutlineOnDark : kOutline));
 }
 
 } // namespace
 
 void GroupBox::paintEvent(QPaintEvent* event) {
-    if (!style()->inherits("QFusionStyle")) {
+    if (style()->objectName() != "fusion") {
         QGroupBox::paintEvent(event);
         return;
     }
