@@ -48,7 +48,7 @@ for part in Common-Controls PerMonitorV2 asInvoker; do
     grep -q "$part" "$program" || complain "The manifest does not name $part."
 done
 ! grep -q activeCodePage "$program" || complain 'The manifest sets a code page of its own.'
-wrestool --list "$program" | grep -q 'type=14' || complain 'The program has no icon.'
+wrestool --list "$program" | grep -q "type=14 --name='IDI_ICON1'" || complain 'The program has no icon for its windows.'
 wrestool --list "$program" | grep -q 'type=16' || complain 'The program tells no version.'
 ! grep -qF "$(dirname "$here")" "$program" || complain 'The program names the folder that it was built in.'
 

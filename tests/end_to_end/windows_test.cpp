@@ -36,6 +36,12 @@ TEST_F(Windows, TheStatusWindowOpensWithTheFocusWhereAStrayBlankDoesNoHarm) {
     });
 }
 
+TEST_F(Windows, BelongToTheEntryInTheMenuOfTheDesktop) {
+    play([](User& user) {
+        EXPECT_EQ(user.look([] { return QGuiApplication::desktopFileName(); }), "tarnwell-gui");
+    });
+}
+
 TEST_F(Windows, BroughtBackDuringAnInstallTheMainWindowLeavesCancelInSight) {
     play([&](User& user) {
         startSlowInstall(user);

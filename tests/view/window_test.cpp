@@ -3,6 +3,7 @@
 #include "ui/version.h"
 #include "view/view_fixture.h"
 
+#include <QFontDatabase>
 #include <QGroupBox>
 #include <QPainter>
 #include <QScreen>
@@ -368,6 +369,15 @@ TEST(ApplicationIcon, KeepsItsShapeInAPlaceThatIsNotSquare) {
     painter.end();
     EXPECT_EQ(picture.pixelColor(10, 5).alpha(), 0);
     EXPECT_GT(picture.pixelColor(10, 20).alpha(), 0);
+}
+
+TEST_F(MainWindow, ActivityIsWrittenInLettersOfOneWidthThatScale) {
+    samples::activity(form);
+    serveEvents();
+    const QFont& font = widget<QWidget>(form.txtOutput).font();
+    const QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    EXPECT_TRUE(QFontDatabase::isSmoothlyScalable(font.family()) || font.family() == fixed.family())
+        << font.family().toStdString();
 }
 
 } // namespace tarnwell::view

@@ -19,6 +19,8 @@ DesktopProgram::DesktopProgram(const QtSystemFolders& folders)
       settingsWindow_(program_.shared().frmSettings.untouched()),
       statusWindow_(program_.shared().frmStatus.untouched()),
       aboutWindow_(program_.shared().frmAbout.untouched()) {
+    // So that a panel finds the icon and the name of the entry in its menu.
+    QGuiApplication::setDesktopFileName(QStringLiteral("tarnwell-gui"));
     giveIconOnceShown();
     ports_.tray.makeMenu = [this] { return &mainWindow_.menu(program_.shared().frmMain.mnuSystray); };
     mainWindow_.hideMinimises = !ports_.tray.available();

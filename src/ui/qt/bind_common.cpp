@@ -5,6 +5,8 @@
 #include "ui/qt/desktop_theme.h"
 #include "ui/qt/event_watcher.h"
 
+#include <QFontDatabase>
+
 namespace tarnwell::view {
 
 namespace {
@@ -51,10 +53,18 @@ void bindColors(Binding& binding, ui::Control& control, QWidget& widget) {
         show();
 }
 
+/// The tool writes columns, for letters of one width. Where Courier is missing any other font could stand in,
+/// and where it is a picture of dots it cannot be scaled with the screen.
+QString shownFamily(const QString& family) {
+    if (family != QStringLiteral("Courier") || QFontDatabase::isSmoothlyScalable(family))
+        return family;
+    return QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
+}
+
 QFont toFont(const std::optional<ui::Font>& font) {
     if (!font)
         return {};
-    QFont result(font->name);
+    QFont result(shownFamily(font->name));
     if (font->size > 0)
         result.setPointSizeF(font->size);
     result.setBold(font->bold);
