@@ -4,6 +4,7 @@
 
 #include <memory>
 
+class QObject;
 class QProcess;
 
 /// What differs between the operating systems, each behind one function. Every system has a folder beside
@@ -49,6 +50,10 @@ std::optional<WindowsProfile> windowsProfile();
 /// The other name that Windows keeps for a file or folder, of few and plain characters; empty if there is
 /// none.
 QString shortPath(const QString& path);
+
+/// Calls `appears` once when a tray takes icons: at once if there is one, else out of an event, for a panel may
+/// be started after this program. The wait ends with what is returned.
+std::unique_ptr<QObject> whenTrayAppears(std::function<void()> appears);
 
 /// Shows a balloon by the desktop's own means, beside the tray and without a word to its icon. False if the
 /// desktop has none.

@@ -6,19 +6,24 @@ namespace tarnwell::test {
 
 namespace {
 
+constexpr int kPanelHeight = 28;
+
 /// A panel that gives programs a small window of the display each, for their icons.
+std::unique_ptr<BackgroundProgram> startPanel(const Display& display) {
+    QProcessEnvironment onDisplay = QProcessEnvironment::systemEnvironment();
+    onDisplay.insert("DISPLAY", display.name());
+    return std::make_unique<BackgroundProgram>(
+        "trayer",
+        QStringList{"--edge", "top", "--align", "right", "--widthtype", "pixel", "--width", "100",
+                    "--heighttype", "pixel", "--height", QString::number(kPanelHeight), "--tint", "0xffffff"},
+        onDisplay);
+}
+
 class InEmbeddedTray : public DesktopTest {
 protected:
     InEmbeddedTray() {
-        QProcessEnvironment onDisplay = environment;
-        onDisplay.insert("DISPLAY", display.name());
-        panel = std::make_unique<BackgroundProgram>(
-            "trayer",
-            QStringList{"--edge", "top", "--align", "right", "--widthtype", "pixel", "--width", "100",
-                        "--heighttype", "pixel", "--height", QString::number(kPanelHeight), "--tint",
-                        "0xffffff"},
-            onDisplay);
         start();
+        EXPECT_TRUE(becomes("tray", "there"));
     }
 
     QImage panelPicture() const {
@@ -58,18 +63,16 @@ protected:
         EXPECT_TRUE(hand.waitForFinished(kPatienceMs));
     }
 
-    static constexpr int kPanelHeight = 28;
     static inline const QStringList kDoubleClick{"--repeat", "2", "--delay", "60", "1"};
     static inline const QStringList kLeftClick{"1"}, kRightClick{"3"};
 
     QTemporaryDir folder;
-    std::unique_ptr<BackgroundProgram> panel;
+    std::unique_ptr<BackgroundProgram> panel = startPanel(display);
 };
 
 } // namespace
 
 TEST_F(InEmbeddedTray, TheIconIsToBeSeen) {
-    EXPECT_TRUE(becomes("tray", "there"));
     const QPoint place = waitForArrow();
     EXPECT_GT(place.x(), 700) << "at the right edge, where the panel is";
 }
@@ -109,6 +112,16 @@ TEST_F(WithoutATray, HidingMinimises) {
     EXPECT_EQ(tell("tray"), "none");
     tell("hide");
     EXPECT_TRUE(becomes("window", "minimised"));
+}
+
+TEST_F(WithoutATray, APanelThatIsStartedLaterIsFound) {
+    start();
+    tell("tip 42%|Speed: 3.50 MB/sec");
+    EXPECT_EQ(tell("tray"), "none");
+    const auto panel = startPanel(display);
+    EXPECT_TRUE(becomes("tray", "there"));
+    tell("hide");
+    EXPECT_TRUE(becomes("window", "hidden"));
 }
 
 } // namespace tarnwell::test

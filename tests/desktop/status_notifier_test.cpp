@@ -113,4 +113,21 @@ TEST_F(OnStatusNotifierHost, ExitInTheMenuEndsTheProgram) {
     EXPECT_TRUE(pumpUntil([this] { return !program->running(); }));
 }
 
+class BeforeAStatusNotifierHost : public DesktopTest {};
+
+TEST_F(BeforeAStatusNotifierHost, ThePanelThatIsStartedLaterShowsWhatTheIconTellsByThen) {
+    start();
+    EXPECT_EQ(tell("tray"), "none");
+    tell("tip 42%|Speed: 3.50 MB/sec");
+    const StatusNotifierHost host{bus.address()};
+    EXPECT_TRUE(becomes("tray", "there"));
+    ASSERT_TRUE(pumpUntil([&] { return !host.items.isEmpty(); }));
+    EXPECT_EQ(host.tip(), "42%\r\nSpeed: 3.50 MB/sec");
+    EXPECT_EQ(host.menu().size(), 3u);
+    tell("hide");
+    EXPECT_TRUE(becomes("window", "hidden"));
+    host.activate();
+    EXPECT_TRUE(becomes("window", "shown"));
+}
+
 } // namespace tarnwell::test

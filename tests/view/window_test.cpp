@@ -221,7 +221,7 @@ TEST_F(Window, ComesBackFromItsTitleBarsMinimising) {
 
 TEST_F(Window, WithoutATrayHidingMinimises) {
     int restored = 0;
-    window.hideMinimises = true;
+    window.hideMinimises = [] { return true; };
     window.restored = [&] {
         ++restored;
         form.show();
@@ -238,7 +238,7 @@ TEST_F(Window, WithoutATrayHidingMinimises) {
 
 TEST_F(Window, WithoutATrayShowingBringsItBack) {
     int restored = 0;
-    window.hideMinimises = true;
+    window.hideMinimises = [] { return true; };
     window.restored = [&] { ++restored; };
     form.hide();
     form.show();
@@ -248,7 +248,7 @@ TEST_F(Window, WithoutATrayShowingBringsItBack) {
 }
 
 TEST_F(Window, WithoutATrayTheEndStillHides) {
-    window.hideMinimises = true;
+    window.hideMinimises = [] { return true; };
     window.close();
     EXPECT_FALSE(window.isVisible());
 }

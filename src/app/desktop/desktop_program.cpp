@@ -23,7 +23,7 @@ DesktopProgram::DesktopProgram(const QtSystemFolders& folders)
     QGuiApplication::setDesktopFileName(QStringLiteral("tarnwell-gui"));
     giveIconOnceShown();
     ports_.tray.makeMenu = [this] { return &mainWindow_.menu(program_.shared().frmMain.mnuSystray); };
-    mainWindow_.hideMinimises = !ports_.tray.available();
+    mainWindow_.hideMinimises = [this] { return !ports_.tray.available(); };
     mainWindow_.restored = [this] { program_.hideAndRestore().restore(); };
 }
 

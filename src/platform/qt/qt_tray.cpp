@@ -6,40 +6,58 @@
 
 namespace tarnwell {
 
-QtTray::QtTray(const QIcon& icon) : icon_(icon) {
-    QObject::connect(&icon_, &QSystemTrayIcon::activated,
+QtTray::QtTray(const QIcon& picture)
+    : wait_(native::whenTrayAppears([this, picture] { makeIcon(picture); })) {}
+
+void QtTray::makeIcon(const QIcon& picture) {
+    icon_ = std::make_unique<QSystemTrayIcon>(picture);
+    QObject::connect(icon_.get(), &QSystemTrayIcon::activated,
                      [this](QSystemTrayIcon::ActivationReason reason) { activated(reason); });
+    if (added_)
+        showIcon();
 }
 
-bool QtTray::available() const {
-    return QSystemTrayIcon::isSystemTrayAvailable();
-}
-
-void QtTray::add(const QString& tip) {
-    icon_.setToolTip(tip);
-    icon_.show(); // also without a tray: the desktop's panel may come up after this program
+void QtTray::showIcon() {
+    icon_->setToolTip(tip_);
+    icon_->show();
     if (makeMenu && available() && drawnByPanel()) {
-        icon_.setContextMenu(makeMenu());
+        icon_->setContextMenu(makeMenu());
     }
 }
 
+bool QtTray::available() const {
+    return icon_ && QSystemTrayIcon::isSystemTrayAvailable();
+}
+
+void QtTray::add(const QString& tip) {
+    tip_ = tip;
+    added_ = true;
+    if (icon_)
+        showIcon();
+}
+
 void QtTray::setTip(const QString& tip) {
-    icon_.setToolTip(tip);
+    tip_ = tip;
+    if (icon_)
+        icon_->setToolTip(tip);
 }
 
 void QtTray::showBalloon(const QString& title, const QString& text) {
     // For such a panel Qt makes the balloon the icon's tip as well, in the place of the progress.
     if (available() && !(drawnByPanel() && native::showNotification(title, text))) {
-        icon_.showMessage(title, text, QSystemTrayIcon::Information);
+        icon_->showMessage(title, text, QSystemTrayIcon::Information);
     }
 }
 
 void QtTray::remove() {
-    icon_.hide();
+    added_ = false;
+    if (icon_)
+        icon_->hide();
 }
 
 bool QtTray::drawnByPanel() const {
-    return icon_.geometry().isNull() && QGuiApplication::platformName() != QLatin1String("windows");
+    const bool placeless = !icon_ || icon_->geometry().isNull();
+    return placeless && QGuiApplication::platformName() != QLatin1String("windows");
 }
 
 void QtTray::activated(QSystemTrayIcon::ActivationReason reason) {

@@ -4,13 +4,15 @@
 
 #include <QSystemTrayIcon>
 
+#include <memory>
+
 namespace tarnwell {
 
 /// The icon in the desktop's tray. `doubleClicked` and `rightClicked` are called out of an event of Qt and
 /// must not throw; the program attaches callbacks that catch what its handlers throw.
 class QtTray : public Tray {
 public:
-    explicit QtTray(const QIcon& icon);
+    explicit QtTray(const QIcon& picture);
 
     bool available() const override;
     void add(const QString& tip) override;
@@ -19,7 +21,7 @@ public:
     void remove() override;
 
     /// Makes the menu of a right click for panels that draw the icon and its menu themselves and pass no
-    /// right click on. Called in `add` if there is such a panel.
+    /// right click on. Called when the icon comes up in such a panel.
     std::function<QMenu*()> makeMenu;
 
     /// What the desktop reports about the icon.
@@ -28,8 +30,13 @@ public:
 private:
     /// Such a panel (a status notifier host) tells no place of the icon.
     bool drawnByPanel() const;
+    void makeIcon(const QIcon& picture);
+    void showIcon();
 
-    QSystemTrayIcon icon_;
+    QString tip_;
+    bool added_ = false;
+    std::unique_ptr<QSystemTrayIcon> icon_; ///< null while there is no tray: Qt looks for panels only once
+    std::unique_ptr<QObject> wait_;
 };
 
 } // namespace tarnwell

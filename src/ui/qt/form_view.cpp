@@ -192,7 +192,7 @@ void FormView::showPlace() {
 void FormView::showVisibility() {
     if (form_.visible) {
         showState();
-    } else if (hideMinimises && form_.loaded() && isVisible()) {
+    } else if (hideMinimises() && form_.loaded() && isVisible()) {
         showMinimized();
     } else {
         hide();
@@ -256,7 +256,7 @@ void FormView::reportState() {
     if (form_.visible) {
         binding().report(form_.windowState,
                          isMinimized() ? ui::WindowState::Minimised : ui::WindowState::Normal);
-    } else if (hideMinimises && !isMinimized() && restored) {
+    } else if (isVisible() && !isMinimized() && restored) {
         form_.dispatch(restored);
     }
 }

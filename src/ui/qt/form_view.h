@@ -25,9 +25,9 @@ public:
     /// A menu of the form, for someone else to show.
     QMenu& menu(ui::PopupMenu& model) { return menuOf(binding(), model, *this); }
 
-    /// For a desktop without a tray, where nobody would find a hidden window again: hiding minimises it
-    /// instead. When the user brings it back, `restored` is called through the form's dispatcher.
-    bool hideMinimises = false;
+    /// Asked at each hiding. On a desktop without a tray nobody would find a hidden window again, so it is
+    /// minimised instead. When the user brings it back, `restored` is called through the form's dispatcher.
+    std::function<bool()> hideMinimises = [] { return false; };
     std::function<void()> restored;
 
 protected:

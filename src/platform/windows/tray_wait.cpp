@@ -1,0 +1,13 @@
+#include "platform/native.h"
+
+#include <QObject>
+
+namespace tarnwell {
+
+/// The toolkit brings the icon back by itself whenever the task bar is started anew.
+std::unique_ptr<QObject> native::whenTrayAppears(std::function<void()> appears) {
+    appears();
+    return nullptr;
+}
+
+} // namespace tarnwell
