@@ -5,6 +5,8 @@
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMenu>
+#include <QMessageBox>
 #include <QProxyStyle>
 #include <QPushButton>
 #include <QStyleFactory>
@@ -100,6 +102,33 @@ TEST_F(ThemedDesktop, LeavesTheRestToTheUsersColours) {
     EXPECT_EQ(window.findChild<QLabel*>("lblIP")->palette().color(QPalette::WindowText), QColor(Qt::white));
     EXPECT_EQ(window.findChild<QCheckBox*>("chkOutput")->palette().color(QPalette::WindowText),
               QColor(Qt::white));
+}
+
+/// Neither a menu that was open before nor a box that is up may keep the colours of the theme before.
+TEST_F(MainWindow, FollowsAChangeOfThemeWithHeadingsMenusAndBoxes) {
+    samples::localDisk(form);
+    samples::games(form, 5);
+    QMessageBox box(QMessageBox::Warning, "Tarnwell GUI", "No room", QMessageBox::Ok, &window);
+    box.show();
+    QMenu& menu = window.menu(form.mnuSystray);
+    menu.popup({});
+    menu.hide();
+    QWidget* const shown[] = {&window, widget<QTreeView>(form.lstHD).header(), &menu, &box};
+    const auto ground = [](QWidget& drawn) {
+        return qGray(drawn.grab().toImage().scaled(1, 1, {}, Qt::SmoothTransformation).pixel(0, 0));
+    };
+    constexpr int kMiddleGray = 128;
+    for (QWidget* const drawn : shown)
+        EXPECT_GT(ground(*drawn), kMiddleGray) << drawn->metaObject()->className();
+    QApplication::setPalette(samples::darkPalette());
+    serveEvents();
+    for (QWidget* const drawn : shown)
+        EXPECT_LT(ground(*drawn), kMiddleGray) << drawn->metaObject()->className();
+    QApplication::setPalette(QPalette());
+    serveEvents();
+    for (QWidget* const drawn : shown)
+        EXPECT_GT(ground(*drawn), kMiddleGray) << drawn->metaObject()->className();
+    QApplication::setStyle("Fusion");
 }
 
 } // namespace tarnwell::view
