@@ -20,10 +20,15 @@ int runChild(const QStringList& arguments) {
     constexpr struct {
         const char* name;
         void (*run)(int);
-    } kChildren[] = {{"first-window", firstWindow},     {"progress-load", progressLoad},
-                     {"command-delay", commandDelay},   {"interpreter-speed", interpreterSpeed},
-                     {"game-list", gameList},           {"scale", scale},
-                     {"queue-overhead", queueOverhead}, {"dropped-images", droppedImages},
+    } kChildren[] = {{"first-window", firstWindow},
+                     {"progress-load", progressLoad},
+                     {"command-delay", commandDelay},
+                     {"interpreter-speed", interpreterSpeed},
+                     {"game-list", gameList},
+                     {"sorted-list", sortedList},
+                     {"scale", scale},
+                     {"queue-overhead", queueOverhead},
+                     {"dropped-images", droppedImages},
                      {"status-pages", statusPages}};
     for (const auto& child : kChildren) {
         if (arguments.value(0) == child.name) {
@@ -44,9 +49,9 @@ int runAll(bool quick) {
     const FreshProcesses processes;
     Report report;
     report.printHeadings();
-    for (const auto measure :
-         {measureFirstWindow, measurePeers, measureProgressLoad, measureCommandDelay, measureInterpreterSpeed,
-          measureGameList, measureScale, measureQueueOverhead, measureDroppedImages, measureStatusPages})
+    for (const auto measure : {measureFirstWindow, measurePeers, measureProgressLoad, measureCommandDelay,
+                               measureInterpreterSpeed, measureGameList, measureSortedList, measureScale,
+                               measureQueueOverhead, measureDroppedImages, measureStatusPages})
         measure(processes, effort, report);
     return report.complete() ? 0 : 1;
 }

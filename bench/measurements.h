@@ -22,6 +22,7 @@ void measureProgressLoad(const FreshProcesses& processes, const Effort& effort, 
 void measureCommandDelay(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measureInterpreterSpeed(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measureGameList(const FreshProcesses& processes, const Effort& effort, Report& report);
+void measureSortedList(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measureScale(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measureQueueOverhead(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measureDroppedImages(const FreshProcesses& processes, const Effort& effort, Report& report);
@@ -33,6 +34,7 @@ void progressLoad(int seconds);
 void commandDelay(int commands);
 void interpreterSpeed(int rounds);
 void gameList(int rounds);
+void sortedList(int rounds);
 void scale(int rounds);
 void queueOverhead(int jobs);
 void droppedImages(int images);

@@ -66,16 +66,11 @@ void measurePeers(const FreshProcesses& processes, const Effort& effort, Report&
     for (std::size_t i = 1; i < programs.size(); ++i) {
         const Program& other = programs[i];
         const bool isPeer = i > 1;
-        report.add({.what = "Start to a window on X, beside " + other.name(),
-                    .measured = median(own.milliseconds),
-                    .unit = "ms",
-                    .against = median(other.milliseconds),
-                    .atMost = isPeer ? 1 : 1.5});
-        report.add({.what = "Memory in use half a second later",
-                    .measured = median(own.megabytes),
-                    .unit = "MB",
-                    .against = median(other.megabytes),
-                    .atMost = isPeer ? 1 : 1.5});
+        constexpr double kLongestStart = 1.15, kMostMemory = 1.2;
+        report.add(pairedFigure("Start to a window on X, beside " + other.name(), "ms", own.milliseconds,
+                                other.milliseconds, isPeer ? 1 : kLongestStart));
+        report.add(pairedFigure("Memory in use half a second later", "MB", own.megabytes, other.megabytes,
+                                isPeer ? 1 : kMostMemory));
     }
 }
 
