@@ -4,6 +4,8 @@
 #include "tour/screen_picture.h"
 #include "ui/version.h"
 
+#include <QApplication>
+
 #include <cstdio>
 #include <thread>
 
@@ -53,6 +55,8 @@ void GuidedTour::play() {
     cancelQueue();
     completeQueue();
     dropImages();
+    sortGames();
+    useKeys();
     lookAtSettings();
     changeLook();
     lookAtAbout();
@@ -205,6 +209,36 @@ void GuidedTour::dropImages() {
     tell("images-queued", "All games among them wait in the queue; nothing has started.");
 }
 
+void GuidedTour::sortGames() {
+    user_.click("cmdControls");
+    user_.click("optBrowse");
+    const QStringList asTold = user_.rows("lstHD");
+    user_.clickHeading("lstHD", "Size");
+    tell("sorted", "A click on the heading Size: the smallest game comes first.");
+    expect(user_.rows("lstHD") != asTold, "the games in another order");
+    user_.maximise("frmMain");
+    tell("maximised", "The list takes the room that the window gets.");
+    user_.unmaximise("frmMain");
+}
+
+void GuidedTour::useKeys() {
+    constexpr int kMostTabs = 20;
+    user_.pressAccessKey("optInstall");
+    user_.pressAccessKey("optBrowse");
+    for (int tabs = 0; user_.focused() != "lstHD"; ++tabs) {
+        expect(tabs < kMostTabs, "the Tab key to reach the list");
+        user_.press(Qt::Key_Tab);
+    }
+    user_.press(Qt::Key_Home);
+    user_.press(Qt::Key_Down);
+    user_.press(Qt::Key_Delete);
+    user_.waitFor("the menu of Delete", [] { return QApplication::activePopupWidget() != nullptr; });
+    tell("keys", "The same by keys alone: Alt and the marked letter, Tab, the arrows, Delete.");
+    user_.press(Qt::Key_Escape);
+    user_.waitFor("the menu to close", [] { return QApplication::activePopupWidget() == nullptr; });
+    user_.waitUntilIdle();
+}
+
 void GuidedTour::queueInstall() {
     user_.click("optInstall");
     fillInstallPage();
@@ -225,7 +259,6 @@ void GuidedTour::queueMakeIso() {
 }
 
 void GuidedTour::lookAtSettings() {
-    user_.click("cmdControls");
     user_.click("cmdSettings");
     user_.waitFor("the settings window", [this] { return user_.windowUp("frmSettings"); });
     tell("settings-tarnwell", "Settings & Tools: the settings of the tool.");

@@ -30,6 +30,8 @@ private:
     void cancelQueue();
     void completeQueue();
     void dropImages();
+    void sortGames();
+    void useKeys();
     void lookAtSettings();
     void changeLook();
     void lookAtAbout();

@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPointer>
@@ -148,6 +149,19 @@ void User::clickRow(const QString& list, const QString& text, Qt::KeyboardModifi
     });
 }
 
+void User::clickHeading(const QString& list, const QString& title) {
+    look([&] {
+        QHeaderView& headings = *static_cast<QTreeView&>(reachable(list)).header();
+        int column = 0;
+        while (headings.model()->headerData(column, Qt::Horizontal).toString() != title) {
+            if (++column == headings.count())
+                throw Stuck("There is no column " + title + " in " + list + '.');
+        }
+        const int middle = headings.sectionViewportPosition(column) + headings.sectionSize(column) / 2;
+        sendClick(*headings.viewport(), {middle, headings.height() / 2});
+    });
+}
+
 void User::rightClickBelowRows(const QString& list) {
     auto* const view = look([&] { return &static_cast<QTreeView&>(reachable(list)); });
     act([view] {
@@ -190,6 +204,16 @@ bool User::drop(const QString& name, const QStringList& files) {
 void User::closeWindow(const QString& form) {
     auto* const window = look([&] { return windowOf(form); });
     act([window] { window->close(); });
+}
+
+void User::maximise(const QString& form) {
+    look([&] { windowOf(form)->showMaximized(); });
+    waitFor("the window to take the screen", [&] { return windowOf(form)->isMaximized(); });
+}
+
+void User::unmaximise(const QString& form) {
+    look([&] { windowOf(form)->showNormal(); });
+    waitFor("the window to be as it was", [&] { return !windowOf(form)->isMaximized(); });
 }
 
 void User::bringBack(const QString& form) {

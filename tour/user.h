@@ -61,6 +61,8 @@ public:
     void selectRow(const QString& list, const QString& text);
     /// The same with the key held that leaves the other rows selected.
     void alsoSelectRow(const QString& list, const QString& text);
+    /// Clicks the heading of a column.
+    void clickHeading(const QString& list, const QString& title);
     /// Presses the right button below the rows of a list.
     void rightClickBelowRows(const QString& list);
     /// Edits the label of the selected row.
@@ -70,6 +72,9 @@ public:
     bool drop(const QString& name, const QStringList& files);
     /// Presses the close box of a window.
     void closeWindow(const QString& form);
+    /// Presses the box of a window that makes it as large as the screen, or as it was.
+    void maximise(const QString& form);
+    void unmaximise(const QString& form);
     /// As with a click in the desktop's list of windows, or on the tray icon if only that is left.
     void bringBack(const QString& form);
     /// Drags a window to the lower right corner of another, so that both can be seen.
