@@ -11,6 +11,8 @@
 #include <QScrollBar>
 #include <QWindow>
 
+#include <set>
+
 namespace tarnwell::view {
 
 class Window : public MainWindow {};
@@ -92,9 +94,11 @@ TEST_F(Window, ResizingByTheUserIsReportedAndGrowsTheLists) {
 class SmallScreen : public MainWindow {
 protected:
     SmallScreen() {
-        if (QGuiApplication::screens().size() < 2)
+        const auto screens = QGuiApplication::screens();
+        if (screens.size() < 2)
             return;
-        small_ = QGuiApplication::screens().at(1);
+        small_ =
+            *std::ranges::min_element(screens, {}, [](const QScreen* each) { return each->size().height(); });
         window.move(room().topLeft() + QPoint(40, 300));
         serveEvents();
     }
@@ -118,6 +122,34 @@ TEST_F(SmallScreen, TheWindowMovesUpWhenTheActivityWouldReachBelowTheScreen) {
     EXPECT_EQ(window.currentScale().pixels(form.top), window.y()) << "the program knows of it";
     EXPECT_FALSE(face().verticalScrollBar()->isVisible());
     EXPECT_EQ(form.height, ui::FrmMain::kTallHeight);
+}
+
+TEST_F(SmallScreen, WhatAFontThatTheUserChoosesPushesOffTheScreenIsScrolledTo) {
+    if (!small_)
+        GTEST_SKIP() << "no second screen";
+    samples::localDisk(form);
+    samples::games(form, 12);
+    samples::activity(form);
+    serveEvents();
+    for (ui::Control* control : form.controls()) {
+        if (control->hasFont())
+            control->font = ui::Font{"DejaVu Sans", 24};
+    }
+    serveEvents();
+    EXPECT_TRUE(room().contains(window.frameGeometry()));
+    EXPECT_TRUE(face().verticalScrollBar()->isVisible());
+
+    window.activateWindow();
+    widget<QWidget>(form.optLocal).setFocus();
+    std::set<const QWidget*> reached;
+    while (reached.insert(window.focusWidget()).second) {
+        const QWidget& at = *window.focusWidget();
+        EXPECT_GE(at.visibleRegion().boundingRect().height(), at.fontMetrics().height())
+            << at.objectName().toStdString();
+        QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_TRUE(reached.contains(&widget<QWidget>(form.cmdExit)));
+    EXPECT_TRUE(reached.contains(&widget<QWidget>(form.txtOutput)));
 }
 
 TEST_F(Window, TheUsersHeightHasNoEndAndTheListTakesIt) {
