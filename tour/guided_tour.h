@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QImage>
+#include <QStringList>
 
 namespace tarnwell::tour {
 
@@ -17,7 +18,8 @@ public:
         : user_(user), bench_(bench), pictures_(pictures), samples_(bench.makeSamples()),
           image_(samples_ + "/cd-game.iso"), backup_(bench.path("Salt and Sand.iso")) {}
 
-    void play();
+    /// To the end, or to that of the scene with the picture `lastPicture`.
+    void play(const QString& lastPicture = {});
 
 private:
     void readConsole();
@@ -55,7 +57,7 @@ private:
     const Workbench& bench_;
     const QDir pictures_;
     const QString samples_, image_, backup_;
-    int step_ = 0;
+    QStringList told_;
 };
 
 } // namespace tarnwell::tour

@@ -32,12 +32,12 @@ void lookTheSameEverywhere() {
         QApplication::setFont(QFont("DejaVu Sans", 9));
 }
 
-QString play(const QDir& pictures) {
+QString play(const QDir& pictures, const QString& lastPicture) {
     try {
         const Workbench bench;
         bench.behave(kUnhurried);
         DesktopProgram program{QtSystemFolders(bench.folder(), bench.folder())};
-        return runWithUser(program, [&](User& user) { GuidedTour(user, bench, pictures).play(); });
+        return runWithUser(program, [&](User& user) { GuidedTour(user, bench, pictures).play(lastPicture); });
     } catch (const std::exception& error) {
         return QString::fromLocal8Bit(error.what());
     }
@@ -53,14 +53,14 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     view::useOwnFont();
     lookTheSameEverywhere();
-    if (argc != 2) {
-        std::fputs("usage: tarnwell-tour PICTURE_FOLDER\n", stderr);
+    if (argc != 2 && argc != 3) {
+        std::fputs("usage: tarnwell-tour PICTURE_FOLDER [LAST_PICTURE]\n", stderr);
         return 2;
     }
     const QDir pictures(QString::fromLocal8Bit(argv[1]));
     pictures.mkpath(".");
     removeOldPictures(pictures);
-    const QString trouble = play(pictures);
+    const QString trouble = play(pictures, QString::fromLocal8Bit(argv[2])); // nothing, if it is not given
     if (!trouble.isEmpty()) {
         std::fprintf(stderr, "The tour has ended early: %s\n", trouble.toLocal8Bit().constData());
         return 1;
