@@ -9,13 +9,8 @@ qt_version=$3
 largest_program=$((20 * 1024 * 1024))
 systems_own=/usr/lib/x86_64-linux-gnu/wine/x86_64-windows
 
-scratch=$(mktemp -d)
-trap 'rm -rf "$scratch"' EXIT
-wrong=0
-complain() {
-    echo "$*"
-    wrong=1
-}
+# shellcheck source=tests/support/package_check.sh
+. "$here/../tests/support/package_check.sh"
 inspect() { x86_64-w64-mingw32-objdump -p "$1"; }
 
 TZ=UTC unzip -q "$zip" -d "$scratch/Program Files"
@@ -53,14 +48,6 @@ wrestool --list "$program" | grep -q 'type=16' || complain 'The program tells no
 ! grep -qF "$(dirname "$here")" "$program" || complain 'The program names the folder that it was built in.'
 
 # A user's double clicks: the program comes up, finds the samples made, and ends when its window is closed; and once more.
-wait_for() {
-    tries=0
-    until "$@"; do
-        tries=$((tries + 1))
-        [ "$tries" -le 300 ] || return 1
-        sleep 0.1
-    done
-}
 running() { "$here/wine.sh" tasklist 2>/dev/null | grep -q tarnwell-gui; }
 gone() { ! running; }
 for start in first second; do

@@ -1,6 +1,7 @@
 # Makes small trees in FOLDER and runs CHECK on each.
 
 set(zip build/windows/game-2.1.0-windows-x64.zip)
+set(tarball build/release/game-2.1.0-linux-x64.tar.gz)
 
 function(write_changelog)
   list(JOIN ARGN "\n\n" text)
@@ -17,13 +18,14 @@ function(write_tree)
   file(REMOVE_RECURSE ${FOLDER})
   file(WRITE ${FOLDER}/CMakeLists.txt "project(game VERSION 2.1.0 LANGUAGES CXX)\n")
   write_changelog("## [Unreleased]" "## [2.1.0] - 2001-03-04" "### Added" "- A door." "## [2.0.0] - 2000-01-02")
-  file(WRITE ${FOLDER}/README.md "Unpack game-2.1.0-windows-x64.zip.\n")
+  file(WRITE ${FOLDER}/README.md "Unpack game-2.1.0-windows-x64.zip or game-2.1.0-linux-x64.tar.gz.\n")
   file(WRITE ${FOLDER}/docs/guide.md "For version 2.1.0, everywhere.\n")
   file(WRITE ${FOLDER}/.gitignore "/build/\n")
   git(init --quiet)
   git(add --all)
   git(commit --quiet --message "A tree")
   file(WRITE ${FOLDER}/${zip} "")
+  file(WRITE ${FOLDER}/${tarball} "")
 endfunction()
 
 function(run_check release exit_code output)
@@ -58,6 +60,7 @@ file(WRITE ${FOLDER}/CMakeLists.txt "project(game VERSION 2.2.0 LANGUAGES CXX)\n
 expect_fault(OFF "A version that nobody told" "CHANGELOG.md tells 2.1.0 as the newest release, CMakeLists.txt 2.2.0")
 expect_fault(OFF "A guide of another version" "docs/guide.md does not say \"For version 2.2.0,\"")
 expect_fault(OFF "Another archive's name" "README.md does not say \"game-2.2.0-windows-x64.zip\"")
+expect_fault(OFF "Another archive's name for Linux" "README.md does not say \"game-2.2.0-linux-x64.tar.gz\"")
 
 write_tree()
 write_changelog("## [Unreleased]" "### Fixed" "- A window." "## [2.1.0] - 2001-03-04")
@@ -81,8 +84,14 @@ file(WRITE ${FOLDER}/build/windows/game-2.0.0-windows-x64.zip "")
 expect_fault(ON "Another version packed" "build/windows holds \"game-2.0.0-windows-x64.zip\"")
 
 write_tree()
-execute_process(COMMAND touch -d 2000-01-01 ${FOLDER}/${zip} COMMAND_ERROR_IS_FATAL ANY)
-expect_fault(ON "Packed before the last commit" "is older than the last commit")
+file(REMOVE ${FOLDER}/${tarball})
+expect_fault(ON "Nothing packed for Linux" "build/release holds \"\"")
+
+foreach(archive ${zip} ${tarball})
+  write_tree()
+  execute_process(COMMAND touch -d 2000-01-01 ${FOLDER}/${archive} COMMAND_ERROR_IS_FATAL ANY)
+  expect_fault(ON "Packed before the last commit" "${archive} is older than the last commit")
+endforeach()
 
 file(REMOVE_RECURSE ${FOLDER})
 file(WRITE ${FOLDER}/CMakeLists.txt "project(game LANGUAGES CXX)\n")
