@@ -52,7 +52,7 @@ inside() {
     root=$1
     shift
     # shellcheck disable=SC2016
-    exec env -i PATH="$PATH" unshare --map-root-user --mount --net sh -c '
+    exec env -i PATH="$PATH:/usr/sbin" unshare --map-root-user --mount --net sh -c '
         root=$1 runtime=$2
         shift 2
         ip link set lo up
