@@ -84,7 +84,7 @@ open_demo() {
     inside "$scratch/$suite" DISPLAY="$DISPLAY" demo/start-demo >"$scratch/words" 2>&1 &
     program=$!
     wait_for window_up || complain "$suite: the demo opens no window: $(cat "$scratch/words")"
-    kill "$program"
+    kill "$program" || true
     wait_for window_gone || complain "$suite: the demo does not end."
 }
 
