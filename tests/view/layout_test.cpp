@@ -163,18 +163,9 @@ TEST_F(Layout, EveryControlHasItsToolTipAndState) {
 }
 
 TEST_F(Layout, FieldsAreNamedForScreenReaders) {
-    const auto spokenFor = [&](const ui::Control& control) {
-        const auto* face = window.findChild<QWidget*>(control.name);
-        for (const QLabel* label : window.findChildren<QLabel*>()) {
-            if (label->buddy() == face)
-                return true;
-        }
-        return false;
-    };
     for (const ui::Control* control : form.controls()) {
-        if (control->kind == ui::Kind::ComboBox) {
-            EXPECT_TRUE(spokenFor(*control)) << control->name.toStdString();
-        } else if (control->kind == ui::Kind::TextBox || control->kind == ui::Kind::ListView) {
+        if (control->kind == ui::Kind::ComboBox || control->kind == ui::Kind::TextBox ||
+            control->kind == ui::Kind::ListView) {
             EXPECT_FALSE(window.findChild<QWidget*>(control->name)->accessibleName().isEmpty())
                 << control->name.toStdString();
         }

@@ -1,3 +1,4 @@
+#include "ui/qt/accessible_option.h"
 #include "ui/qt/bind_controls.h"
 #include "ui/qt/captions.h"
 #include "ui/qt/event_watcher.h"
@@ -149,6 +150,7 @@ QWidget* bindButton(Binding& binding, ui::Button& button, QWidget* parent) {
 
 QWidget* bindOptionButton(Binding& binding, ui::OptionButton& option, QWidget* parent) {
     auto* widget = new ShownByModel<QRadioButton>(parent);
+    describeAs<AccessibleOption>(*widget);
     widget->setAutoExclusive(false);
     followCaption(binding, option, *widget);
     const auto show = [&option, widget] { widget->setChecked(option.value); };

@@ -1,3 +1,4 @@
+#include "ui/qt/accessible_drop_down.h"
 #include "ui/qt/bind_controls.h"
 #include "ui/user_actions.h"
 
@@ -8,6 +9,7 @@ namespace tarnwell::view {
 QWidget* bindComboBox(Binding& binding, ui::ComboBox& list, QWidget* parent) {
     constexpr int kCharactersAtLeast = 7;
     auto* combo = new QComboBox(parent);
+    describeAs<AccessibleDropDown>(*combo);
     // The entries are read from disks; they must not widen the window.
     combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     combo->setMinimumContentsLength(kCharactersAtLeast);

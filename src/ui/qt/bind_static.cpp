@@ -1,3 +1,4 @@
+#include "ui/qt/accessible_frames.h"
 #include "ui/qt/bind_controls.h"
 #include "ui/qt/captions.h"
 #include "ui/qt/group_box.h"
@@ -29,9 +30,13 @@ private:
 } // namespace
 
 QWidget* bindFrame(Binding& binding, ui::Frame& frame, QWidget* parent) {
-    if (frame.caption.get().isEmpty())
-        return new QWidget(parent);
+    if (frame.caption.get().isEmpty()) {
+        auto* pane = new QWidget(parent);
+        describeAs<AccessiblePane>(*pane);
+        return pane;
+    }
     auto* box = new GroupBox(parent);
+    describeAs<AccessibleGroup>(*box);
     // Pages lie over one another, so nothing may shine through.
     box->setAutoFillBackground(!frame.container);
     binding.follow(frame.caption.changed, *box,
@@ -53,6 +58,7 @@ QWidget* bindLabel(Binding& binding, ui::Label& label, QWidget* parent) {
 
 QWidget* bindLine(QWidget* parent) {
     auto* line = new QFrame(parent);
+    describeAs<AccessibleLine>(*line);
     line->setFrameStyle(QFrame::HLine | QFrame::Sunken);
     return line;
 }

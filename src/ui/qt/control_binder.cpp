@@ -2,7 +2,6 @@
 
 #include "ui/qt/bind_common.h"
 #include "ui/qt/bind_controls.h"
-#include "ui/qt/captions.h"
 #include "ui/qt/popup_menu.h"
 
 #include <QLabel>
@@ -60,14 +59,6 @@ QWidget* ControlBinder::make(ui::Control& control, QWidget* parent) {
 
 void ControlBinder::nameBy(const ui::Label& label, const ui::Control& control) {
     static_cast<QLabel*>(widget(label))->setBuddy(widget(control));
-}
-
-void ControlBinder::nameUnseen(const ui::ComboBox& list) {
-    QWidget* combo = widget(list);
-    auto* label = new QLabel(escapedCaption(list.accessibleName), combo->parentWidget());
-    label->setTextFormat(Qt::PlainText);
-    label->setBuddy(combo);
-    label->hide();
 }
 
 } // namespace tarnwell::view

@@ -18,9 +18,6 @@ public:
 
     /// Lets a label speak for another control.
     void nameBy(const ui::Label& label, const ui::Control& control);
-    /// For a drop-down list without a label of its own: its accessible name is spoken by a label that nobody
-    /// sees. Qt speaks the chosen entry in the name's place otherwise.
-    void nameUnseen(const ui::ComboBox& list);
 
 private:
     QWidget* make(ui::Control& control, QWidget* parent);

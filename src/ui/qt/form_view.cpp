@@ -1,5 +1,6 @@
 #include "ui/qt/form_view.h"
 
+#include "ui/qt/accessible_frames.h"
 #include "ui/qt/colors.h"
 #include "ui/qt/outlined_style.h"
 #include "ui/user_actions.h"
@@ -32,6 +33,7 @@ constexpr double kLargestScale = 8;
 FormView::FormView(ui::Form& form)
     : form_(form), declaredWidth_(form.width), face_(*new FormFace(*this)),
       programSize_(form.width, form.height), binder_(form, face_.content()) {
+    describeAs<AccessibleWindow>(*this);
     setObjectName(form.name);
     auto* whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);

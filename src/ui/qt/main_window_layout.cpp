@@ -76,7 +76,6 @@ void MainWindowLayout::layOutDevice() {
     device->setStretchFactor(widget(form_.txtIP), 1);
     device->setStretchFactor(widget(form_.cmbHD), 1);
     controls_.nameBy(form_.lblIP, form_.txtIP);
-    controls_.nameUnseen(form_.cmbHD);
 
     QVBoxLayout* inDevice = column(widget(form_.fmDevice));
     inDevice->setContentsMargins(0, 0, 0, 0);
@@ -121,7 +120,6 @@ void MainWindowLayout::layOutInstall() {
     source->addWidget(widget(form_.optOptical), 1, 0);
     source->addWidget(widget(form_.cmbOptical), 1, 1, 1, 2);
     source->setColumnStretch(1, 1);
-    controls_.nameUnseen(form_.cmbOptical);
 
     auto* game = new QGridLayout;
     game->setSpacing(kGap - 1);

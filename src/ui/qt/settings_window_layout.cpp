@@ -1,5 +1,6 @@
 #include "ui/qt/settings_window_layout.h"
 
+#include "ui/qt/accessible_frames.h"
 #include "ui/qt/layout_parts.h"
 
 #include <QGridLayout>
@@ -103,6 +104,7 @@ void SettingsWindowLayout::layOutTools() {
 void SettingsWindowLayout::layOutWindow() {
     const auto& widget = *this;
     auto* pane = new QFrame(&content_);
+    describeAs<AccessiblePane>(*pane);
     pane->setFrameStyle(QFrame::StyledPanel | QFrame::Raised);
     auto* pages = new QGridLayout(pane);
     pages->setContentsMargins(0, 0, 0, 0);
