@@ -68,6 +68,29 @@ TEST_F(AccessibleDescription, WindowsAreWindows) {
     }
 }
 
+TEST_F(AccessibleDescription, AMinimisedWindowKeepsItsName) {
+    window.showMinimized();
+    EXPECT_EQ(nameOf(describe(window)), form.caption.get());
+}
+
+TEST_F(AccessibleDescription, AnOpenMenuIsPartOfItsWindow) {
+    QAccessibleInterface& described = describe(window);
+    const int others = described.childCount();
+    form.mnuCompat.popUpBelow(form.cmdCompat);
+    serveEvents();
+    ASSERT_EQ(described.childCount(), others + 1);
+    QAccessibleInterface* const menu = described.child(others);
+    ASSERT_NE(menu, nullptr);
+    EXPECT_EQ(menu->role(), QAccessible::PopupMenu);
+    EXPECT_EQ(menu->child(0)->text(QAccessible::Name), "1: Slow HDD Access");
+    EXPECT_EQ(described.indexOfChild(menu), others);
+    EXPECT_EQ(described.indexOfChild(described.child(0)), 0);
+    EXPECT_EQ(described.indexOfChild(nullptr), -1);
+    static_cast<QWidget*>(menu->object())->close();
+    EXPECT_EQ(described.childCount(), others);
+    EXPECT_EQ(described.child(others), nullptr);
+}
+
 TEST_F(AccessibleDescription, GroupsCarryTheirOwnNames) {
     for (const ui::Frame* frame : {&form.fmMain, &form.fmHDDSpace, &form.fmNavigation, &form.fmOutput,
                                    &form.fmInstall, &form.fmBrowse, &form.fmJob}) {

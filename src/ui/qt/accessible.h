@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAccessibleWidget>
+#include <QWidget>
 
 namespace tarnwell::view {
 

@@ -9,9 +9,19 @@ namespace tarnwell::view {
 
 using Relations = QList<QPair<QAccessibleInterface*, QAccessible::Relation>>;
 
+/// A window and, while they are open, its menus, which Qt shows to nobody but those who open them by keys. It
+/// keeps its name while it is minimised.
 class AccessibleWindow final : public QAccessibleWidget {
 public:
     explicit AccessibleWindow(QWidget& window) : QAccessibleWidget(&window, QAccessible::Window) {}
+
+    QString text(QAccessible::Text kind) const override;
+    int childCount() const override;
+    QAccessibleInterface* child(int index) const override;
+    int indexOfChild(const QAccessibleInterface* child) const override;
+
+private:
+    QList<QObject*> openMenus() const;
 };
 
 /// A frame with a title, which is its name.
