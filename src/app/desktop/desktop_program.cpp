@@ -1,8 +1,10 @@
 #include "app/desktop/desktop_program.h"
 
+#include "ui/qt/announcement.h"
 #include "ui/qt/application_icon.h"
 #include "ui/qt/colors.h"
 #include "ui/qt/event_watcher.h"
+#include "ui/qt/spoken_progress.h"
 
 #include <QGuiApplication>
 #include <QTimer>
@@ -23,6 +25,9 @@ DesktopProgram::DesktopProgram(const QtSystemFolders& folders)
     QGuiApplication::setDesktopFileName(QStringLiteral("tarnwell-gui"));
     giveIconOnceShown();
     ports_.tray.makeMenu = [this] { return &mainWindow_.menu(program_.shared().frmMain.mnuSystray); };
+    new view::SpokenProgress(
+        program_.shared().frmMain, program_.shared().frmStatus.untouched(),
+        [this](const QString& text) { view::announce(mainWindow_, text); }, mainWindow_);
     mainWindow_.hideMinimises = [this] { return !ports_.tray.available(); };
     mainWindow_.restored = [this] { program_.hideAndRestore().restore(); };
 }
