@@ -9,12 +9,13 @@ namespace tarnwell::test {
 /// A display, a bus, and the program on them once `start` is called.
 class DesktopTest : public testing::Test {
 protected:
-    void start() {
+    void start() { start(programFolder.path()); }
+    void start(const QString& folder) {
         environment.insert("DISPLAY", display.name());
         environment.insert("QT_QPA_PLATFORM", "xcb");
         environment.insert("DBUS_SESSION_BUS_ADDRESS", bus.address());
-        program = std::make_unique<BackgroundProgram>(builtProgram("desktop_helper"),
-                                                      QStringList(programFolder.path()), environment);
+        program = std::make_unique<BackgroundProgram>(builtProgram("desktop_helper"), QStringList(folder),
+                                                      environment);
         EXPECT_TRUE(becomes("window", "shown"));
     }
 
