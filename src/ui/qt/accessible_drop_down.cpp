@@ -18,10 +18,8 @@ void chooseSelected(QComboBox& comboBox) {
     const QModelIndex selected = list.selectionModel()->selectedIndexes().value(0);
     if (!selected.isValid() || selected.row() == list.currentIndex().row())
         return;
-    if (comboBox.isEnabled()) {
-        comboBox.hidePopup();
-        comboBox.setCurrentIndex(selected.row());
-    }
+    comboBox.hidePopup();
+    comboBox.setCurrentIndex(selected.row());
     showChoiceInList(comboBox);
 }
 
