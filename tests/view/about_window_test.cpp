@@ -1,5 +1,6 @@
 #include "view/view_fixture.h"
 
+#include <QAccessible>
 #include <QLabel>
 #include <QPlainTextEdit>
 
@@ -46,6 +47,18 @@ TEST_F(AboutWindow, AClickOnALinkOpensIt) {
     QTest::mouseClick(&label(form.lblThread), Qt::LeftButton);
     EXPECT_EQ(opened, 1);
     QTest::mouseClick(&label(form.lblThread), Qt::RightButton);
+    EXPECT_EQ(opened, 1);
+}
+
+TEST_F(AboutWindow, LinksAreLinksToScreenReadersThatCanBePressed) {
+    QAccessibleInterface& link = *QAccessible::queryAccessibleInterface(&label(form.lblThread));
+    EXPECT_EQ(link.role(), QAccessible::Link);
+    EXPECT_EQ(link.text(QAccessible::Name), form.lblThread.caption.get());
+    ASSERT_EQ(link.actionInterface()->actionNames().value(0), QAccessibleActionInterface::pressAction());
+    link.actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(opened, 1);
+    link.actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+    EXPECT_TRUE(label(form.lblThread).hasFocus());
     EXPECT_EQ(opened, 1);
 }
 

@@ -1,3 +1,4 @@
+#include "ui/qt/accessible.h"
 #include "ui/qt/bind_controls.h"
 #include "ui/qt/captions.h"
 #include "ui/user_actions.h"
@@ -26,15 +27,17 @@ public:
         setFont(underlined);
     }
 
+    void follow() { ui::click(link_); }
+
 protected:
     void mouseReleaseEvent(QMouseEvent* event) override {
         if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
-            ui::click(link_);
+            follow();
     }
 
     void keyPressEvent(QKeyEvent* event) override {
         if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space)
-            ui::click(link_);
+            follow();
         else
             QLabel::keyPressEvent(event);
     }
@@ -54,10 +57,33 @@ private:
     ui::Label& link_;
 };
 
+/// Qt takes it for a text that does nothing.
+class AccessibleLink final : public QAccessibleWidget {
+public:
+    explicit AccessibleLink(QWidget& link) : QAccessibleWidget(&link, QAccessible::Link) {}
+
+    QString text(QAccessible::Text kind) const override {
+        return kind == QAccessible::Name ? link().text() : QAccessibleWidget::text(kind);
+    }
+    QStringList actionNames() const override {
+        return QStringList(pressAction()) + QAccessibleWidget::actionNames();
+    }
+    void doAction(const QString& name) override {
+        if (name == pressAction())
+            link().follow();
+        else
+            QAccessibleWidget::doAction(name);
+    }
+
+private:
+    Link& link() const { return static_cast<Link&>(*widget()); }
+};
+
 } // namespace
 
 QWidget* bindLink(Binding& binding, ui::Label& link, QWidget* parent) {
     auto* widget = new Link(link, parent);
+    describeAs<AccessibleLink>(*widget);
     binding.follow(link.caption.changed, *widget,
                    [&link, widget] { widget->setText(shownCaption(link.caption)); });
     return widget;
