@@ -2,26 +2,39 @@
 
 #include "ui/qt/accessible.h"
 
+#include <QBasicTimer>
 #include <QDeadlineTimer>
 
 namespace tarnwell::view {
 
 namespace {
 
-/// Readers hear of a message first and ask for its words later, so these stay for a while.
+/// A window that opens or closes has so much to tell that readers drop what comes with it, so a message waits
+/// until that is over. Then it stays for a while: readers hear of it first and ask for its words later.
 class Message final : public QWidget {
 public:
     explicit Message(QWidget& window);
 
+    bool isFree() const { return !wait_.isActive() && !isUp(); }
     bool isUp() const { return !end_.hasExpired(); }
-    void comeUp(const QString& text) {
+    void comeUpSoon(const QString& text) {
+        constexpr int kUntilCalmMs = 700;
+        text_ = text;
+        wait_.start(kUntilCalmMs, Qt::PreciseTimer, this); // they are heard in their order
+    }
+
+protected:
+    void timerEvent(QTimerEvent*) override {
         constexpr int kTimeToReadMs = 10'000;
+        wait_.stop();
         end_.setRemainingTime(kTimeToReadMs);
-        setAccessibleName(text);
-        tellOfMessage(*this, text);
+        setAccessibleName(text_);
+        tellOfMessage(*this, text_);
     }
 
 private:
+    QString text_;
+    QBasicTimer wait_;
     QDeadlineTimer end_{0};
 };
 
@@ -43,7 +56,7 @@ Message::Message(QWidget& window) : QWidget(&window) {
 
 Message& freeMessage(QWidget& window) {
     for (QObject* child : window.children()) {
-        if (auto* message = dynamic_cast<Message*>(child); message && !message->isUp())
+        if (auto* message = dynamic_cast<Message*>(child); message && message->isFree())
             return *message;
     }
     return *new Message(window);
@@ -53,7 +66,7 @@ Message& freeMessage(QWidget& window) {
 
 void announce(QWidget& window, const QString& text) {
     if (QAccessible::isActive())
-        freeMessage(window).comeUp(text);
+        freeMessage(window).comeUpSoon(text);
 }
 
 } // namespace tarnwell::view
