@@ -20,8 +20,7 @@ constexpr int kPatienceMs = 60'000;
 } // namespace
 
 Workbench::Workbench(const QString& name)
-    : scratch_(QDir::isAbsolutePath(name) ? name + " XXXXXX" : QDir::tempPath() + "/tarnwell-XXXXXX"),
-      folder_(QDir::isAbsolutePath(name) ? scratch_.path() : scratch_.filePath(name)) {
+    : scratch_(QDir::tempPath() + "/tarnwell-XXXXXX"), folder_(scratch_.filePath(name)) {
     const QString original = builtProgram("tarnwell.exe");
     if (!QDir().mkpath(folder_) || !QFile::copy(original, tool()))
         fail("Could not copy " + original + " into " + folder_ + '.');

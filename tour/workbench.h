@@ -9,8 +9,8 @@ namespace tarnwell::tour {
 /// world of disks, drives and a console.
 class Workbench {
 public:
-    /// `name` is the name of the program's folder; with a path in front it lies there, and gets a few letters
-    /// behind it. Throws std::runtime_error if there is no tool to be copied.
+    /// `name` is the name of the program's folder. Throws std::runtime_error if there is no tool to be
+    /// copied.
     explicit Workbench(const QString& name = "program");
 
     QString folder() const { return folder_; }

@@ -44,7 +44,7 @@ TEST(ProgramToBeKilled, DISABLED_InstallsAGame) {
                                     user.waitFor("the settings window",
                                                  [&] { return user.windowUp("frmSettings"); });
                                     user.selectTab("TabStrip", ui::FrmSettings::kGuiTab);
-                                    user.click("frmSettings.chkStatusServer");
+                                    user.click("frmSettings.chkBalloonTips");
                                     user.click("frmSettings.cmdExitNoSave");
                                     user.waitUntilIdle();
                                     WholeProgram::startInstall(user);
@@ -61,7 +61,7 @@ TEST_F(KilledProgram, LosesNoSettingAndTheToolFinishesTheGame) {
     EXPECT_FALSE(bench.run({"tarn_toc", "hdd1:"}).contains("HARVEST")) << "killed too late";
 
     const QByteArray settings = contents(bench.path("config.cfg"));
-    EXPECT_TRUE(settings.contains("StatusServer=1"));
+    EXPECT_TRUE(settings.contains("BalloonTips=1"));
     EXPECT_TRUE(contents(bench.path("tarnwell.conf")).contains("kept=yes"));
     EXPECT_TRUE(comesTrue([&] { return bench.run({"tarn_toc", "hdd1:"}).contains("HARVEST"); }));
     play([&](User& user) {

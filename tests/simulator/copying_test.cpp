@@ -125,7 +125,7 @@ TEST_F(Copying, AGameThatJustFitsIsTaken) {
 }
 
 TEST_F(Copying, TheSamplesAreWhatTheirNamesSay) {
-    ASSERT_EQ(runProgram(SAMPLES_EXECUTABLE, {"samples"}, folder()).exitCode, 0);
+    ASSERT_EQ(runProgram(builtProgram("tarnwell-samples"), {"samples"}, folder()).exitCode, 0);
     EXPECT_EQ(text({"cdvd_info2", "samples/cd-game.iso"}),
               "CD 65536KB \"SALT_AND_SAND\" \"SLUS_990.51\"\r\n");
     EXPECT_EQ(text({"cdvd_info2", "samples/DVD game.iso"}),
@@ -134,7 +134,8 @@ TEST_F(Copying, TheSamplesAreWhatTheirNamesSay) {
     EXPECT_EQ(text({"cdvd_info2", "samples/no-label.iso"}), "CD 131072KB \"\" \"SLPM_990.54\"\r\n");
     EXPECT_EQ(text({"cdvd_info2", "samples/not-a-game.iso"}),
               "samples/not-a-game.iso: not a Playstation CD-ROM/DVD-ROM.\r\n");
-    EXPECT_EQ(runProgram(SAMPLES_EXECUTABLE, {"samples"}, folder()).exitCode, 0) << "made twice";
+    EXPECT_EQ(runProgram(builtProgram("tarnwell-samples"), {"samples"}, folder()).exitCode, 0)
+        << "made twice";
 }
 
 } // namespace

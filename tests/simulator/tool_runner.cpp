@@ -1,6 +1,7 @@
 #include "simulator/tool_runner.h"
 
 #include "simulator/key_value_file.h"
+#include "simulator/os.h"
 
 #include <fstream>
 #include <iterator>
@@ -71,6 +72,10 @@ void RunningTool::wait() {
     }
 }
 
+fs::path builtProgram(const char* name) {
+    return simulator::os::executableFolder("") / name;
+}
+
 Result runProgram(const fs::path& program, const Words& arguments, const fs::path& workingFolder) {
     return RunningTool(program, arguments, workingFolder).finish();
 }
@@ -83,7 +88,7 @@ ScratchFolder::~ScratchFolder() {
 }
 
 SimulatedTool::SimulatedTool() {
-    fs::copy_file(SIMULATOR_EXECUTABLE, program());
+    fs::copy_file(builtProgram("tarnwell.exe"), program());
     const fs::path world = worldFolder();
     simulator::Disk::create(world / "disks" / "hdd1", "hdd1:", 1024, true);
     simulator::Disk::create(world / "disks" / "hdd2", "hdd2:", 1024, true);

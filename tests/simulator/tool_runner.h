@@ -55,6 +55,9 @@ private:
     std::string text_;
 };
 
+/// A program that lies beside the tests.
+std::filesystem::path builtProgram(const char* name);
+
 Result runProgram(const std::filesystem::path& program, const Words& arguments,
                   const std::filesystem::path& workingFolder);
 
