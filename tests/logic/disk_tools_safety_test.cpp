@@ -1,4 +1,5 @@
 #include "support/program_test.h"
+#include "support/tool_argument.h"
 
 namespace tarnwell::test {
 namespace {
@@ -91,7 +92,7 @@ TEST_F(DiskToolsSafety, TheOldTableStaysIfTheToolCannotBeStarted) {
     writeFile("table.bak", "old");
     toolCannotBeStarted();
     backUpTo("table.bak");
-    EXPECT_EQ(tried_, QStringList("backup_toc hdd1: " + path("table.bak")));
+    EXPECT_EQ(tried_, QStringList("backup_toc hdd1: " + toolArgument(path("table.bak"))));
     EXPECT_EQ(contents("table.bak"), "old");
     EXPECT_EQ(filesLike("table*"), QStringList("table.bak"));
 }
@@ -109,7 +110,7 @@ TEST_F(DiskToolsSafety, TheOldTableIsGoneOnceTheToolHasRun) {
     writeFile("table.bak", "old");
     writeFile("table.bak.old1", "somebody's own");
     backUpTo("table.bak");
-    EXPECT_EQ(commands().last(), "backup_toc hdd1: " + path("table.bak"));
+    EXPECT_EQ(commands().last(), "backup_toc hdd1: " + toolArgument(path("table.bak")));
     EXPECT_EQ(filesLike("table*"), QStringList("table.bak.old1"));
     EXPECT_EQ(contents("table.bak.old1"), "somebody's own");
 }

@@ -233,7 +233,7 @@ TEST_F(WayOut, LeadsOverTheConsoleTheIconAndTheOtherWindows) {
     QStringList steps;
     const auto note = [&](const QString& step) { steps += ports.tray.shown ? step + ", icon" : step; };
     ports.launcher.script = [&](const QString& line) {
-        note(line.section(' ', 1));
+        note(line.section("tarnwell.exe ", 1));
         return silent();
     };
     for (ui::Form* form : std::initializer_list<ui::Form*>{&program.shared().frmAbout.untouched(),

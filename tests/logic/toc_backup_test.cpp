@@ -1,4 +1,5 @@
 #include "logic/disk_tools_fixture.h"
+#include "support/tool_argument.h"
 
 #include <gmock/gmock.h>
 
@@ -46,7 +47,7 @@ TEST_F(TocBackup, SavingTheTableRunsTheToolOnTheLongFormOfTheDisk) {
     EXPECT_EQ(asked.fileName, "tarntoc.bak");
     EXPECT_EQ(asked.folder, program.shared().config.AppFolder());
     EXPECT_TRUE(asked.askBeforeOverwriting);
-    EXPECT_EQ(commands().last(), "backup_toc hdd10: " + path("table.bak"));
+    EXPECT_EQ(commands().last(), "backup_toc hdd10: " + toolArgument(path("table.bak")));
     EXPECT_TRUE(ports.ping.echoes.empty());
 }
 
@@ -109,7 +110,7 @@ TEST_F(TocBackup, WithAnAddressAloneTheTableGoesToTheConsole) {
     ui::choose(frmSettings.cmbHD, 0);
     ports.dialogs.saveFileAnswers = {path("table.bak")};
     ui::click(frmSettings.cmdBackupTOC);
-    EXPECT_EQ(commands().last(), "backup_toc 192.168.0.10 " + path("table.bak"));
+    EXPECT_EQ(commands().last(), "backup_toc 192.168.0.10 " + toolArgument(path("table.bak")));
     EXPECT_EQ(ports.ping.echoes.size(), 1U);
 }
 
@@ -119,7 +120,7 @@ TEST_F(TocBackup, TheLastEntryMeansTheAddressThatStandsThereNow) {
     frmMain.txtIP.text = "10.0.0.7";
     ports.dialogs.openFileAnswers = {path("table.bak")};
     ui::click(frmSettings.cmdRestoreTOC);
-    EXPECT_EQ(commands().last(), "restore_toc 10.0.0.7 " + path("table.bak"));
+    EXPECT_EQ(commands().last(), "restore_toc 10.0.0.7 " + toolArgument(path("table.bak")));
 }
 
 TEST_F(TocBackup, AConsoleThatDoesNotAnswerIsToldBeforeAnyDialog) {
@@ -202,9 +203,9 @@ TEST_F(TocBackup, IsTriedWithoutAskingWhetherTheToolIsThere) {
     removeTool();
     chooseFile();
     ui::click(frmSettings.cmdBackupTOC);
-    EXPECT_EQ(commands().last(), "backup_toc hdd1: " + path("table.bak"));
+    EXPECT_EQ(commands().last(), "backup_toc hdd1: " + toolArgument(path("table.bak")));
     ui::click(frmSettings.cmdRestoreTOC);
-    EXPECT_EQ(commands().last(), "restore_toc hdd1: " + path("table.bak"));
+    EXPECT_EQ(commands().last(), "restore_toc hdd1: " + toolArgument(path("table.bak")));
 }
 
 } // namespace
