@@ -60,6 +60,7 @@ endfunction()
 expect_words(docs/guide.md "For version ${version},")
 expect_words(README.md "${name}-${version}-windows-x64.zip")
 expect_words(README.md "${name}-${version}-linux-x64.tar.gz")
+expect_words(README.md "${name}-${version}-windows-x64-tests.zip")
 
 # The archive of this version and of the last commit, and no other.
 function(expect_packed folder kind command)
@@ -90,6 +91,7 @@ if(RELEASE)
   execute_process(COMMAND git log -1 --format=%ct WORKING_DIRECTORY ${ROOT}
     OUTPUT_VARIABLE committed OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
   expect_packed(build/windows windows-x64.zip "./dev windows")
+  expect_packed(build/windows windows-x64-tests.zip "./dev windows")
   expect_packed(build/release linux-x64.tar.gz "./dev package")
 endif()
 
