@@ -10,6 +10,17 @@ export WINEPREFIX="$here/../build/windows/wine" WINEDEBUG=-all WINEDLLOVERRIDES=
 # shellcheck source=tests/support/display.sh
 . "$here/../tests/support/display.sh"
 
+# Waits for as long as the session lasts. With the first program come services of Wine, which hold its streams until no
+# program runs any more: a test would seem to last until the others have ended, too, and run out of its time.
+start_first_program() {
+    never=$(mktemp -u)
+    mkfifo "$never"
+    exec 8<>"$never"
+    rm "$never"
+    wine cmd <&8 8<&- >/dev/null 2>&1 &
+    wine cmd /c exit 8<&- >/dev/null 2>&1 # when it has ended, the services are there
+}
+
 end_session() {
     wineserver -k 2>/dev/null || true
     kill "$display" 2>/dev/null || true
@@ -29,4 +40,5 @@ wine regedit "$here/wine.reg"
 # Wine knows fonts of the system, but not where Debian keeps Wine's own, Tahoma among them.
 cp -u /usr/share/wine/fonts/* "$WINEPREFIX/drive_c/windows/Fonts"
 wineserver -k # what runs by now knows the fonts of before
-"$@"
+start_first_program
+"$@" 8<&-
