@@ -10,15 +10,15 @@ export WINEPREFIX="$here/../build/windows/wine" WINEDEBUG=-all WINEDLLOVERRIDES=
 # shellcheck source=tests/support/display.sh
 . "$here/../tests/support/display.sh"
 
-# Waits for as long as the session lasts. With the first program come services of Wine, which hold its streams until no
-# program runs any more: a test would seem to last until the others have ended, too, and run out of its time.
+# Waits for as long as the session lasts. With the first program come services and desktop of Wine, which hold its streams
+# until no program runs any more: a test would seem to last until the others have ended, too, and run out of its time.
 start_first_program() {
     never=$(mktemp -u)
     mkfifo "$never"
     exec 8<>"$never"
     rm "$never"
     wine cmd <&8 8<&- >/dev/null 2>&1 &
-    wine cmd /c exit 8<&- >/dev/null 2>&1 # when it has ended, the services are there
+    wine rundll32 user32.dll,GetDesktopWindow 8<&- >/dev/null 2>&1 # when it has ended, both are there
 }
 
 end_session() {
