@@ -30,11 +30,11 @@ QString Report::add(const ListedTest& test, const TestRun& run) {
     passed_ += passed ? 1 : 0;
     seconds_ += run.seconds;
     const QStringList facts = figures(output) + (passed ? QStringList() : QStringList(run.trouble));
-    const QString line = QString("%1 %2 s  %3  %4")
-                             .arg(passed ? "passed" : "FAILED")
-                             .arg(run.seconds, 6, 'f', 1)
-                             .arg(test.program, -18)
-                             .arg(facts.join(", "));
+    QString line = QString("%1 %2 s  %3  %4")
+                       .arg(passed ? "passed" : "FAILED")
+                       .arg(run.seconds, 6, 'f', 1)
+                       .arg(test.program, -18)
+                       .arg(facts.join(", "));
     summary_ += line;
     QStringList details = output.noteworthy;
     if (!passed && output.failed == 0)
