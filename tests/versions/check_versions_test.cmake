@@ -82,7 +82,7 @@ expect_fault(OFF "Another kind of heading" "odd heading: ### News")
 
 write_tree()
 file(REMOVE ${FOLDER}/${tests_zip})
-expect_fault(ON "No tests packed" "build/windows holds \"game-2.1.0-windows-x64.zip\"")
+expect_fault(ON "No tests packed" "not just game-2.1.0-windows-x64-tests.zip")
 file(REMOVE ${FOLDER}/${zip})
 expect_fault(ON "Nothing packed" "build/windows holds \"\"")
 file(WRITE ${FOLDER}/build/windows/game-2.0.0-windows-x64.zip "")
