@@ -53,7 +53,7 @@ QString shortPath(const QString& path);
 
 /// Calls `appears` once when a tray takes icons: at once if there is one, else out of an event, for a panel
 /// may be started after this program. The wait ends with what is returned.
-std::unique_ptr<QObject> whenTrayAppears(std::function<void()> appears);
+std::unique_ptr<QObject> whenTrayAppears(const std::function<void()>& appears);
 
 /// Shows a balloon by the desktop's own means, beside the tray and without a word to its icon. False if the
 /// desktop has none.

@@ -84,9 +84,9 @@ private:
 
 } // namespace
 
-std::unique_ptr<QObject> native::whenTrayAppears(std::function<void()> appears) {
+std::unique_ptr<QObject> native::whenTrayAppears(const std::function<void()>& appears) {
     if (!notifierWatcherIsUp() && !embeddingTrayIsUp())
-        return std::make_unique<TrayWait>(std::move(appears));
+        return std::make_unique<TrayWait>(appears);
     appears();
     return nullptr;
 }
