@@ -115,7 +115,7 @@ public:
     DesktopProgram& program() { return program_; }
 
 private:
-    static constexpr std::chrono::seconds kPatience{30};
+    static constexpr std::chrono::seconds kPatience{60};
 
     /// To be called by `look`.
     static QWidget& widget(const QString& name);
