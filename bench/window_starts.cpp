@@ -9,7 +9,7 @@ namespace tarnwell::bench {
 namespace {
 
 void startOnce(StartedProgram& program, Screen& screen) {
-    constexpr int kLongestStartMs = 20'000, kUntilSettledMs = 500;
+    constexpr int kPatienceMs = 20'000, kUntilSettledMs = 500;
     constexpr double kKilobytesPerMegabyte = 1024;
     QProcess process;
     process.setProcessEnvironment(program.environment);
@@ -17,7 +17,7 @@ void startOnce(StartedProgram& program, Screen& screen) {
     process.setStandardErrorFile(QProcess::nullDevice());
     const double begin = now();
     process.start(program.path, program.arguments);
-    if (process.waitForStarted() && screen.waitForWindow(kLongestStartMs)) {
+    if (process.waitForStarted() && screen.waitForWindow(kPatienceMs)) {
         program.milliseconds.push_back((now() - begin) / kNanosecondsPerMillisecond);
         QThread::msleep(kUntilSettledMs);
         program.megabytes.push_back(residentKilobytes(process.processId()) / kKilobytesPerMegabyte);
