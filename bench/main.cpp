@@ -49,10 +49,9 @@ int runAll(bool quick) {
     const FreshProcesses processes;
     Report report;
     report.printHeadings();
-    for (const auto measure :
-         {measureFirstWindow, measurePeers, measureWineStarts, measureProgressLoad, measureCommandDelay,
-          measureInterpreterSpeed, measureGameList, measureSortedList, measureScale, measureQueueOverhead,
-          measureDroppedImages, measureStatusPages})
+    for (const auto measure : {measureFirstWindow, measurePeers, measureProgressLoad, measureCommandDelay,
+                               measureInterpreterSpeed, measureGameList, measureSortedList, measureScale,
+                               measureQueueOverhead, measureDroppedImages, measureStatusPages})
         measure(processes, effort, report);
     return report.complete() ? 0 : 1;
 }

@@ -18,8 +18,6 @@ struct Effort {
 
 void measureFirstWindow(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measurePeers(const FreshProcesses& processes, const Effort& effort, Report& report);
-/// Only where the Windows program was built and run before.
-void measureWineStarts(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measureProgressLoad(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measureCommandDelay(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measureInterpreterSpeed(const FreshProcesses& processes, const Effort& effort, Report& report);
