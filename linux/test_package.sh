@@ -98,10 +98,11 @@ play_under_wayland() {
     play wayland image-read QT_QPA_PLATFORM=wayland WAYLAND_DISPLAY=wayland-test
     kill "$compositor"
     wait "$compositor" || true
+    compositor=''
 }
 
 compositor=''
-trap 'kill "$display" $compositor 2>/dev/null; rm -rf "$scratch"' EXIT
+trap 'kill "$display" $compositor 2>/dev/null || true; rm -rf "$scratch"' EXIT
 start_display
 
 for suite in "$@"; do
