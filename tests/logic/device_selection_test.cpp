@@ -173,6 +173,19 @@ TEST_F(DeviceSelection, AListThatComesAfterAChangeOfTheAddressIsNotTakenForThatC
     EXPECT_FALSE(program.shared().blnReadTOC);
 }
 
+TEST_F(DeviceSelection, AnAddressThatChangesWhileTheBarIsDrawnLeavesNothingOfTheConsoleBefore) {
+    bool typed = false;
+    frmMain.picDiskSpace.drawing.changed.connect([&] {
+        if (frmMain.lstHD.count() > 0 && !std::exchange(typed, true))
+            ui::type(frmMain.txtIP, "192.168.0.1");
+    });
+    ui::click(frmMain.cmdAttach);
+    EXPECT_TRUE(typed);
+    EXPECT_EQ(frmMain.lstHD.count(), 0);
+    EXPECT_EQ(deviceGroup(), QStringList());
+    EXPECT_EQ(frmMain.lblDiskSpace.caption.get(), "(no active device)");
+}
+
 TEST_F(DeviceSelection, ChoosingAnotherDiskDuringARefreshShowsTheGamesOfTheFirst) {
     ui::click(frmMain.optLocal);
     ports.launcher.on("tarnwell.exe tarn_toc", {.output = {{kTwoGames, 400}}, .endsAtMs = 500});
