@@ -67,14 +67,15 @@ inside() {
 
 play() {
     pictures=$systems/pictures/$suite-$1
-    rm -rf "$pictures" "$scratch/$suite/tmp/pictures"
+    seen="$scratch/$suite/home/user/PS2 tools/Tarnwell/pictures"
+    rm -rf "$pictures" "$seen"
     shift
     last=$1
     shift
-    (inside "$scratch/$suite" "$@" ./tarnwell-tour /tmp/pictures "$last") >"$scratch/words" 2>&1 ||
+    (inside "$scratch/$suite" "$@" ./tarnwell-tour pictures "$last") >"$scratch/words" 2>&1 ||
         complain "$suite: $(cat "$scratch/words")"
     mkdir -p "$systems/pictures"
-    [ ! -d "$scratch/$suite/tmp/pictures" ] || cp -R "$scratch/$suite/tmp/pictures" "$pictures"
+    [ ! -d "$seen" ] || cp -R "$seen" "$pictures"
 }
 
 window_up() { xwininfo -root -tree | grep -q '" *Tarnwell GUI v'; }
