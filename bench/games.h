@@ -1,6 +1,9 @@
 #pragma once
 
-#include <QString>
+#include "tool_under_test.h"
+
+#include <QApplication>
+#include <QTreeView>
 
 namespace tarnwell::bench {
 
@@ -17,6 +20,15 @@ inline QString gameTable(int games) {
                                   i % 100, i);
     }
     return text + "total 114473MB, used 26712MB, available 87761MB\r\n";
+}
+
+/// The program from the tool's text of so many games to painted rows.
+inline void showGames(ToolUnderTest& tool, QTreeView& view, const QString& table, int games) {
+    tool.shared.blnReadTOC = true;
+    tool.interpreter.ParseToolOutput(table);
+    while (view.model()->rowCount() < games)
+        QApplication::processEvents();
+    view.viewport()->repaint();
 }
 
 } // namespace tarnwell::bench

@@ -27,15 +27,6 @@ const List kLists[] = {{"A game in a list of", {100, 1000, 10'000}, 12, 15},
                        {"A job in a list of", {10, 100, 1000}, 12, 5},
                        {"A device in a list of", {5, 50}, 0, 15}};
 
-/// From the tool's text to painted rows.
-void showGames(ToolUnderTest& tool, QTreeView& view, int games) {
-    tool.shared.blnReadTOC = true;
-    tool.interpreter.ParseToolOutput(gameTable(games));
-    while (view.model()->rowCount() < games)
-        QApplication::processEvents();
-    view.viewport()->repaint();
-}
-
 /// Queued one by one, run one by one, and removed, with a look at the window after each step.
 void showJobs(Shared& shared, int jobs) {
     ui::ListView& lstJob = shared.frmMain.lstJob;
@@ -92,9 +83,9 @@ void scale(int rounds) {
     inProgram([rounds](DesktopProgram& desktop) {
         ToolUnderTest tool(desktop);
         auto& view = *desktop.mainWindow().findChild<QTreeView*>("lstHD");
-        const std::function<void(int)> show[] = {[&](int games) { showGames(tool, view, games); },
-                                                 [&](int jobs) { showJobs(tool.shared, jobs); },
-                                                 [&](int devices) { showDevices(tool, devices); }};
+        const std::function<void(int)> show[] = {
+            [&](int games) { showGames(tool, view, gameTable(games), games); },
+            [&](int jobs) { showJobs(tool.shared, jobs); }, [&](int devices) { showDevices(tool, devices); }};
         std::vector<double> figures;
         for (std::size_t list = 0; list < std::size(kLists); ++list) {
             ui::click(list == 1 ? tool.shared.frmMain.optJobQueue : tool.shared.frmMain.optBrowse);

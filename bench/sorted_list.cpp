@@ -26,10 +26,7 @@ void sortedList(int rounds) {
         ToolUnderTest tool(desktop);
         ui::click(tool.shared.frmMain.optBrowse);
         auto& view = *desktop.mainWindow().findChild<QTreeView*>("lstHD");
-        tool.shared.blnReadTOC = true;
-        tool.interpreter.ParseToolOutput(gameTable(kGames));
-        while (view.model()->rowCount() < kGames)
-            QApplication::processEvents();
+        showGames(tool, view, gameTable(kGames), kGames);
         std::vector<double> nanoseconds;
         for (int i = 0; i < rounds; ++i) {
             const int column = i % view.model()->columnCount();

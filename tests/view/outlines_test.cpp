@@ -63,25 +63,19 @@ int lightestOfRim(QWidget& widget, const QRect& part) {
 class Outlines : public testing::TestWithParam<double> {};
 
 TEST_P(Outlines, HaveFourSidesWhereverABoxStands) {
-    const QColor edge = QApplication::palette().color(QPalette::Window).darker(160);
+    const QPalette palette = QApplication::palette();
+    const QColor ground = palette.color(QPalette::Window);
     for (int offset = 0; offset < 8; ++offset) {
         QWidget window;
-        window.resize(240, 160);
+        window.resize(360, 160);
         FilledBar bar(&window);
         bar.setGeometry(10 + offset, 60 + offset, 101, 21);
-        expectFourSides(pictureOf(window, GetParam()), QRectF(bar.geometry()), edge, "bar");
-    }
-}
-
-TEST_P(Outlines, OfGroupsHaveThem) {
-    const QPalette palette = QApplication::palette();
-    const QColor edge = mixed(palette.color(QPalette::Window), palette.color(QPalette::WindowText), 0.18);
-    for (int offset = 0; offset < 8; ++offset) {
-        QWidget window;
-        window.resize(240, 160);
-        GroupBox box(&window);
-        box.setGeometry(10 + offset, 10 + offset, 101, 81);
-        expectFourSides(pictureOf(window, GetParam()), QRectF(box.geometry()), edge, "group");
+        GroupBox group(&window);
+        group.setGeometry(160 + offset, 10 + offset, 101, 81);
+        const QImage picture = pictureOf(window, GetParam());
+        expectFourSides(picture, QRectF(bar.geometry()), ground.darker(160), "bar");
+        expectFourSides(picture, QRectF(group.geometry()),
+                        mixed(ground, palette.color(QPalette::WindowText), 0.18), "group");
     }
 }
 
