@@ -3,6 +3,7 @@
 #include "app/desktop/desktop_program.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QTimer>
@@ -13,12 +14,15 @@ namespace tarnwell::bench {
 
 namespace {
 constexpr int kLongestRunMs = 60'000;
-}
+constexpr char kListener[] = "plugins/libtarnwell_http.so";
+} // namespace
 
 FreshProcesses::FreshProcesses() {
     const QString here = QCoreApplication::applicationDirPath() + '/';
     QFile::copy(QCoreApplication::applicationFilePath(), folder_.filePath("bench"));
     QFile::copy(here + "tarnwell-gui", program());
+    QDir(folder_.path()).mkdir("plugins");
+    QFile::copy(here + kListener, folder_.filePath(kListener));
     QFile::copy(here + "bench_bare_window", folder_.filePath("bare-window"));
     QFile::copy(here + "bench_scripted_tool", folder_.filePath("tarnwell.exe"));
 }

@@ -18,6 +18,11 @@ if(CCACHE)
   target_compile_options(tarnwell_compiler INTERFACE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
 endif()
 
+# A library that no part of a program uses is not worth loading.
+if(UNIX)
+  add_link_options(-Wl,--as-needed)
+endif()
+
 if(TARNWELL_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)

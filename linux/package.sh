@@ -21,7 +21,7 @@ done
 licences=$folder/licences
 mkdir "$licences"
 cp "$here/licences.txt" "$licences/README.txt"
-(cd "$folder" && find lib plugins -name '*.so*') | sed 's,^lib/,*/,; s,^plugins/,*/qt6/plugins/,' |
+(cd "$folder" && find lib plugins -name '*.so*' ! -name 'libtarnwell*') | sed 's,^lib/,*/,; s,^plugins/,*/qt6/plugins/,' |
     xargs dpkg-query -S | cut -d : -f 1 | sort -u |
     xargs dpkg-query -W -f '${source:Package} ${source:Version} ${Package}\n' | LC_ALL=C sort -u >"$scratch/packages"
 while read -r source version package; do

@@ -63,6 +63,7 @@ std::unique_ptr<Processes> makeProcesses();
 std::unique_ptr<Sound> makeSound();
 std::unique_ptr<Power> makePower();
 std::unique_ptr<Ping> makePing();
+std::unique_ptr<HttpListener> makeHttpListener();
 std::unique_ptr<WakeLock> makeWakeLock();
 std::unique_ptr<DesktopSession> makeDesktopSession();
 std::unique_ptr<TaskbarProgress> makeTaskbarProgress();

@@ -66,6 +66,8 @@ public:
             QApplication::activePopupWidget()->close();
         else if (verb == "tray")
             return shared.ports.tray.available() ? "there" : "none";
+        else if (verb == "serve")
+            return shared.ports.listener.listen(0) ? "listening" : "silent";
         else if (verb == "window")
             return window();
         else if (verb == "end")

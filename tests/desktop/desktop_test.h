@@ -10,12 +10,11 @@ namespace tarnwell::test {
 class DesktopTest : public testing::Test {
 protected:
     void start() { start(programFolder.path()); }
-    void start(const QString& folder) {
+    void start(const QString& folder, const QString& helper = builtProgram("desktop_helper")) {
         environment.insert("DISPLAY", display.name());
         environment.insert("QT_QPA_PLATFORM", "xcb");
         environment.insert("DBUS_SESSION_BUS_ADDRESS", bus.address());
-        program = std::make_unique<BackgroundProgram>(builtProgram("desktop_helper"), QStringList(folder),
-                                                      environment);
+        program = std::make_unique<BackgroundProgram>(helper, QStringList(folder), environment);
         EXPECT_TRUE(becomes("window", "shown"));
     }
 

@@ -113,6 +113,22 @@ TEST_F(OnStatusNotifierHost, ExitInTheMenuEndsTheProgram) {
     EXPECT_TRUE(pumpUntil([this] { return !program->running(); }));
 }
 
+TEST_F(OnStatusNotifierHost, ThePageNeedsNothingThatIsNotBesideTheProgram) {
+    EXPECT_EQ(tell("serve"), "listening");
+}
+
+class CopiedAlone : public DesktopTest {};
+
+TEST_F(CopiedAlone, TheProgramTellsThatThereWillBeNoPage) {
+    const StatusNotifierHost host{bus.address()};
+    const QString copy = programFolder.filePath("helper");
+    ASSERT_TRUE(QFile::copy(builtProgram("desktop_helper"), copy));
+    start(programFolder.path(), copy);
+    EXPECT_EQ(tell("serve"), "silent");
+    ASSERT_TRUE(pumpUntil([&] { return !host.balloons.empty(); }));
+    EXPECT_TRUE(host.balloons.front().text.startsWith("There will be no status page"));
+}
+
 class BeforeAStatusNotifierHost : public DesktopTest {};
 
 TEST_F(BeforeAStatusNotifierHost, ThePanelThatIsStartedLaterShowsWhatTheIconTellsByThen) {

@@ -33,6 +33,11 @@ private:
     QByteArray number_;
 };
 
+QByteArray loadedBy(qint64 process) {
+    QFile maps(QString("/proc/%1/maps").arg(process));
+    return maps.open(QIODevice::ReadOnly) ? maps.readAll() : QByteArray();
+}
+
 /// The program's own file, started as a user would start it.
 TEST(Executable, OpensItsWindowAndEndsWhenTheSystemAsksItTo) {
     if (QStandardPaths::findExecutable("Xvfb").isEmpty() ||
@@ -52,6 +57,9 @@ TEST(Executable, OpensItsWindowAndEndsWhenTheSystemAsksItTo) {
     ASSERT_TRUE(program.waitForStarted());
     EXPECT_TRUE(comesTrue([&] { return display.shows("Tarnwell GUI v" TARNWELL_VERSION); }));
     EXPECT_TRUE(QFile::exists(bench.path("config.cfg")));
+    const QByteArray loaded = loadedBy(program.processId());
+    EXPECT_TRUE(loaded.contains("libQt6Widgets"));
+    EXPECT_FALSE(loaded.contains("libQt6Network")) << "no page has been asked for";
     program.terminate();
     EXPECT_TRUE(program.waitForFinished()) << "the program did not end";
 }

@@ -1,5 +1,6 @@
 #include "platform/helpers.h"
-#include "platform/qt/qt_http_listener.h"
+#include "platform/http/qt_http_listener.h"
+#include "platform/native.h"
 #include "platform/system_helpers.h"
 #include "services/status_page.h"
 
@@ -98,7 +99,9 @@ struct RealHttpListener : testing::Test {
     }
     QByteArray allHeard() const { return heard.join(); }
 
-    QtHttpListener listener;
+    // As the program gets it, out of a library that is loaded late.
+    const std::unique_ptr<HttpListener> owned = native::makeHttpListener();
+    HttpListener& listener = *owned;
     QByteArrayList heard;
     const QByteArray page = BuildStatusPage({.job = "Installing LANTERN"});
 };
@@ -209,10 +212,10 @@ TEST_F(RealHttpListener, DoesNotHearConnectionsFromBeforeItsStart) {
 }
 
 TEST_F(RealHttpListener, AnotherServersPortIsLeftAlone) {
-    QtHttpListener second;
-    EXPECT_FALSE(second.listen(kPort));
-    second.send(page);
-    second.close();
+    const auto second = native::makeHttpListener();
+    EXPECT_FALSE(second->listen(kPort));
+    second->send(page);
+    second->close();
     Client client;
     client.send(kRequest);
     EXPECT_TRUE(client.hears(page));
@@ -337,7 +340,7 @@ TEST_F(RealHttpListener, SendingToNobodyIsNothing) {
 }
 
 TEST_F(RealHttpListener, EndsTogetherWithOpenConnections) {
-    auto shortLived = std::make_unique<QtHttpListener>();
+    auto shortLived = native::makeHttpListener();
     listener.close();
     ASSERT_TRUE(shortLived->listen(kPort));
     Client first;

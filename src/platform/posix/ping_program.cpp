@@ -3,11 +3,11 @@
 #include "platform/posix/ping_status.h"
 
 #include <QElapsedTimer>
-#include <QHostAddress>
 #include <QProcess>
 #include <QProcessEnvironment>
 
 #include <algorithm>
+#include <arpa/inet.h>
 
 namespace tarnwell {
 
@@ -20,6 +20,13 @@ constexpr int kGraceMs = 60;
 /// The program repeats a pattern of at most so many bytes.
 constexpr qsizetype kLongestPattern = 16;
 
+/// As in 192.168.0.10, from the byte order of this machine.
+QString dotted(quint32 address) {
+    const in_addr inNetworkOrder{htonl(address)};
+    char text[INET_ADDRSTRLEN];
+    return QString::fromLatin1(::inet_ntop(AF_INET, &inNetworkOrder, text, sizeof text));
+}
+
 QStringList arguments(quint32 address, const QByteArray& payload, int timeoutMs) {
     return {QStringLiteral("-n"),
             QStringLiteral("-q"),
@@ -28,7 +35,7 @@ QStringList arguments(quint32 address, const QByteArray& payload, int timeoutMs)
             QStringLiteral("-s") + QString::number(payload.size()),
             QStringLiteral("-p"),
             QString::fromLatin1(payload.left(kLongestPattern).toHex()),
-            QHostAddress(address).toString()};
+            dotted(address)};
 }
 
 /// Numbers are written with a point, whatever the user's language.

@@ -3,7 +3,6 @@
 #include "platform/qt/qt_clock.h"
 #include "platform/qt/qt_dialogs.h"
 #include "platform/qt/qt_event_pump.h"
-#include "platform/qt/qt_http_listener.h"
 #include "platform/qt/qt_process_launcher.h"
 #include "platform/qt/qt_system_folders.h"
 #include "platform/qt/qt_tray.h"
@@ -26,7 +25,6 @@ struct DesktopPorts {
     QtProcessLauncher launcher;
     QtDialogs dialogs;
     QtTray tray;
-    QtHttpListener listener;
     QtUrlOpener browser;
     QtSystemFolders folders;
     QtWindowManager windows;
@@ -34,6 +32,7 @@ struct DesktopPorts {
     std::unique_ptr<Sound> sound;
     std::unique_ptr<Power> power;
     std::unique_ptr<Ping> ping;
+    std::unique_ptr<HttpListener> listener;
     std::unique_ptr<WakeLock> wakeLock;
     std::unique_ptr<DesktopSession> session;
     std::unique_ptr<TaskbarProgress> taskbar;

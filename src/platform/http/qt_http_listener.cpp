@@ -1,4 +1,4 @@
-#include "platform/qt/qt_http_listener.h"
+#include "platform/http/qt_http_listener.h"
 
 namespace tarnwell {
 
