@@ -9,9 +9,17 @@
 #include <QGuiApplication>
 #include <QTimer>
 
+#include <chrono>
 #include <utility>
 
 namespace tarnwell {
+
+namespace {
+
+/// The first window has been painted by then.
+constexpr std::chrono::milliseconds kAfterTheStart{100};
+
+} // namespace
 
 DesktopProgram::DesktopProgram(const QtSystemFolders& folders)
     : ports_(
@@ -24,6 +32,8 @@ DesktopProgram::DesktopProgram(const QtSystemFolders& folders)
     // So that a panel finds the icon and the name of the entry in its menu.
     QGuiApplication::setDesktopFileName(QStringLiteral("tarnwell-gui"));
     giveIconOnceShown();
+    // The desktop's word on its trays is asked for over a bus, and may be long in coming.
+    QTimer::singleShot(kAfterTheStart, &mainWindow_, [this] { ports_.tray.look(); });
     ports_.tray.makeMenu = [this] { return &mainWindow_.menu(program_.shared().frmMain.mnuSystray); };
     new view::SpokenProgress(
         program_.shared().frmMain, program_.shared().frmStatus.untouched(),

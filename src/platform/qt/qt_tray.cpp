@@ -6,11 +6,12 @@
 
 namespace tarnwell {
 
-QtTray::QtTray(const QIcon& picture)
-    : wait_(native::whenTrayAppears([this, picture] { makeIcon(picture); })) {}
+void QtTray::look() {
+    wait_ = native::whenTrayAppears([this] { makeIcon(); });
+}
 
-void QtTray::makeIcon(const QIcon& picture) {
-    icon_ = std::make_unique<QSystemTrayIcon>(picture);
+void QtTray::makeIcon() {
+    icon_ = std::make_unique<QSystemTrayIcon>(picture_);
     QObject::connect(icon_.get(), &QSystemTrayIcon::activated,
                      [this](QSystemTrayIcon::ActivationReason reason) { activated(reason); });
     if (added_)

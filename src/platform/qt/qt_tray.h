@@ -12,7 +12,11 @@ namespace tarnwell {
 /// must not throw; the program attaches callbacks that catch what its handlers throw.
 class QtTray : public Tray {
 public:
-    explicit QtTray(const QIcon& picture);
+    explicit QtTray(const QIcon& picture) : picture_(picture) {}
+
+    /// Looks for a tray from here on, and asks the desktop what it has: that takes a while, and a start
+    /// should not wait for it.
+    void look();
 
     bool available() const override;
     void add(const QString& tip) override;
@@ -30,9 +34,10 @@ public:
 private:
     /// Such a panel (a status notifier host) tells no place of the icon.
     bool drawnByPanel() const;
-    void makeIcon(const QIcon& picture);
+    void makeIcon();
     void showIcon();
 
+    QIcon picture_;
     QString tip_;
     bool added_ = false;
     std::unique_ptr<QSystemTrayIcon> icon_; ///< null while there is no tray: Qt looks for panels only once
