@@ -1,6 +1,7 @@
 #include "ui/qt/captions.h"
 #include "view/view_fixture.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
@@ -243,6 +244,20 @@ TEST_F(BoundControls, SelectionBehindTheEndBringsTheEndIntoView) {
     EXPECT_TRUE(endInView()) << "a text of the same length moves no selection";
 }
 
+TEST_F(BoundControls, AButtonIsAsNarrowAsWhatItSaysInItsFont) {
+    auto& button = widget<QPushButton>(form.cmdAttach);
+    const auto beside = [&] {
+        const int text = button.fontMetrics().size(Qt::TextShowMnemonic, button.text()).width();
+        return button.minimumSizeHint().width() - text;
+    };
+    const int room = beside();
+    EXPECT_GT(room, 0);
+    button.setText("What takes far more room than before");
+    EXPECT_EQ(beside(), room);
+    button.setFont(QFont("DejaVu Sans", 24));
+    EXPECT_EQ(beside(), room);
+}
+
 TEST_F(BoundControls, ComboBoxGoesBothWays) {
     int clicks = 0;
     form.cmbType.Click = [&] { ++clicks; };
@@ -253,6 +268,14 @@ TEST_F(BoundControls, ComboBoxGoesBothWays) {
     QTest::keyClick(&combo, Qt::Key_Down);
     EXPECT_EQ(form.cmbType.listIndex, 1);
     EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(BoundControls, WhatDropsDownIsMadeWhenItDoes) {
+    auto& combo = widget<QComboBox>(form.cmbType);
+    EXPECT_EQ(combo.findChild<QAbstractItemView*>(), nullptr);
+    combo.showPopup();
+    EXPECT_NE(combo.findChild<QAbstractItemView*>(), nullptr);
+    combo.hidePopup();
 }
 
 TEST_F(BoundControls, FillingAComboBoxChoosesNothing) {

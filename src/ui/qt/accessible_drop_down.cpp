@@ -3,6 +3,8 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 
+#include <utility>
+
 namespace tarnwell::view {
 
 namespace {
@@ -45,12 +47,18 @@ void keepInStep(QComboBox& comboBox) {
 
 AccessibleDropDown::AccessibleDropDown(QWidget& comboBox)
     : QAccessibleWidget(&comboBox, QAccessible::ComboBox) {
-    keepInStep(this->comboBox());
     tellOfTexts(this->comboBox());
 }
 
 QComboBox& AccessibleDropDown::comboBox() const {
     return static_cast<QComboBox&>(*widget());
+}
+
+/// Made when it drops down or somebody asks for it, whichever comes first.
+QAbstractItemView& AccessibleDropDown::list() const {
+    if (!std::exchange(listIsInStep_, true))
+        keepInStep(comboBox());
+    return *comboBox().view();
 }
 
 QString AccessibleDropDown::text(QAccessible::Text kind) const {
@@ -60,7 +68,7 @@ QString AccessibleDropDown::text(QAccessible::Text kind) const {
 QAccessible::State AccessibleDropDown::state() const {
     QAccessible::State state = QAccessibleWidget::state();
     state.expandable = true;
-    state.expanded = comboBox().view()->isVisible();
+    state.expanded = list().isVisible();
     return state;
 }
 
@@ -71,11 +79,11 @@ Relations AccessibleDropDown::relations(QAccessible::Relation match) const {
 }
 
 QAccessibleInterface* AccessibleDropDown::child(int index) const {
-    return index == 0 ? QAccessible::queryAccessibleInterface(comboBox().view()) : nullptr;
+    return index == 0 ? QAccessible::queryAccessibleInterface(&list()) : nullptr;
 }
 
 int AccessibleDropDown::indexOfChild(const QAccessibleInterface* child) const {
-    return child && child->object() == comboBox().view() ? 0 : -1;
+    return child && child->object() == &list() ? 0 : -1;
 }
 
 QStringList AccessibleDropDown::actionNames() const {
@@ -88,7 +96,7 @@ QStringList AccessibleDropDown::actionNames() const {
 void AccessibleDropDown::doAction(const QString& name) {
     if (name != showMenuAction())
         QAccessibleWidget::doAction(name);
-    else if (comboBox().view()->isVisible())
+    else if (list().isVisible())
         comboBox().hidePopup();
     else if (comboBox().isEnabled())
         comboBox().showPopup();

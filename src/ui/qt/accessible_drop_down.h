@@ -2,6 +2,7 @@
 
 #include "ui/qt/accessible_frames.h"
 
+class QAbstractItemView;
 class QComboBox;
 
 namespace tarnwell::view {
@@ -39,6 +40,9 @@ public:
 
 private:
     QComboBox& comboBox() const;
+    QAbstractItemView& list() const;
+
+    mutable bool listIsInStep_ = false;
 };
 
 } // namespace tarnwell::view

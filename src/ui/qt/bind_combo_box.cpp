@@ -3,16 +3,36 @@
 #include "ui/user_actions.h"
 
 #include <QComboBox>
+#include <QStyleOptionComboBox>
 
 namespace tarnwell::view {
 
+namespace {
+
+/// As narrow as a few characters or its hint: the entries are read from disks, and must not widen the window.
+/// The toolkit's own policy for that makes the list that drops down beforehand.
+class DropDown final : public QComboBox {
+public:
+    using QComboBox::QComboBox;
+
+    QSize sizeHint() const override { return minimumSizeHint(); }
+    QSize minimumSizeHint() const override {
+        constexpr int kCharacters = 9, kAroundText = 2;
+        const QFontMetrics metrics = fontMetrics();
+        const QSize text(std::max(kCharacters * metrics.horizontalAdvance(u'X'),
+                                  metrics.boundingRect(placeholderText()).width()),
+                         std::max(metrics.height(), iconSize().height()) + kAroundText);
+        QStyleOptionComboBox option;
+        initStyleOption(&option);
+        return style()->sizeFromContents(QStyle::CT_ComboBox, &option, text, this);
+    }
+};
+
+} // namespace
+
 QWidget* bindComboBox(Binding& binding, ui::ComboBox& list, QWidget* parent) {
-    constexpr int kCharactersAtLeast = 7;
-    auto* combo = new QComboBox(parent);
+    auto* combo = new DropDown(parent);
     describeAs<AccessibleDropDown>(*combo);
-    // The entries are read from disks; they must not widen the window.
-    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    combo->setMinimumContentsLength(kCharactersAtLeast);
     const auto showChoice = [&list, combo] { combo->setCurrentIndex(list.listIndex); };
     binding.follow(list.itemsChanged, *combo, [&list, combo, showChoice] {
         // Entries come one by one and go all at once.
