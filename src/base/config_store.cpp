@@ -1,6 +1,5 @@
 #include "base/config_store.h"
 
-#include "base/ini_text.h"
 #include "base/replace_file.h"
 #include "base/text_primitives.h"
 #include "platform/ports.h"
@@ -57,6 +56,11 @@ std::optional<IniText> load(const QString& path) {
     return IniText(bytes);
 }
 
+QString valueIn(const std::optional<IniText>& ini, const QString& section, const QString& key) {
+    const auto value = ini ? ini->value(section, key) : std::nullopt;
+    return value.value_or(QString()).left(kLongestValue);
+}
+
 } // namespace
 
 QString ConfigStore::AppFolder() const {
@@ -84,7 +88,7 @@ bool ConfigStore::toolExists() const {
 }
 
 QString ConfigStore::text(const QString& key) const {
-    return ConfigRead(kSection, key, path());
+    return held_ ? valueIn(held_, kSection, key) : ConfigRead(kSection, key, path());
 }
 
 double ConfigStore::number(const QString& key) const {
@@ -98,6 +102,12 @@ int ConfigStore::wholeNumber(const QString& key) const {
 
 void ConfigStore::write(const QString& key, const QString& value) const {
     ConfigWrite(kSection, key, value, path());
+    if (held_)
+        held_ = load(path());
+}
+
+ConfigStore::OneReading::OneReading(const ConfigStore& store) : store_(store) {
+    store_.held_ = load(store_.path());
 }
 
 QString ConfigStore::defaultText(const QString& key) {
@@ -131,9 +141,7 @@ QString WithSeparator(const QString& folder) {
 }
 
 QString ConfigRead(const QString& section, const QString& key, const QString& path) {
-    const std::optional<IniText> ini = load(path);
-    const auto value = ini ? ini->value(section, key) : std::nullopt;
-    return value.value_or(QString()).left(kLongestValue);
+    return valueIn(load(path), section, key);
 }
 
 void ConfigWrite(const QString& section, const QString& key, const QString& value, const QString& path) {

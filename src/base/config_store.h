@@ -1,15 +1,15 @@
 #pragma once
 
-#include <QString>
+#include "base/ini_text.h"
 
 namespace tarnwell {
 
 class SystemFolders;
 
 /// The program's own settings, in `config.cfg` beside the program: an INI file with the one section
-/// `tarnwell`. Every reader goes to the file each time and every change is written at once, so a flag that is
-/// read in the middle of a run has its latest value. Failures are not reported: a store that cannot be
-/// written keeps its old values.
+/// `tarnwell`. Every reader goes to the file each time (but see OneReading) and every change is written at
+/// once, so a flag that is read in the middle of a run has its latest value. Failures are not reported: a
+/// store that cannot be written keeps its old values.
 class ConfigStore {
 public:
     explicit ConfigStore(const SystemFolders& folders) : folders_(folders) {}
@@ -34,8 +34,22 @@ public:
     /// Sets every key but the data folder of the tool to its default; a new file has them in this order.
     void WriteDefaultConfig() const;
 
+    /// As long as it lives, values come from the file as it was at its beginning and from what the program
+    /// has written since: where all of them are read one after the other, the file is opened once.
+    class OneReading {
+    public:
+        explicit OneReading(const ConfigStore& store);
+        ~OneReading() { store_.held_.reset(); }
+        OneReading(const OneReading&) = delete;
+        OneReading& operator=(const OneReading&) = delete;
+
+    private:
+        const ConfigStore& store_;
+    };
+
 private:
     const SystemFolders& folders_;
+    mutable std::optional<IniText> held_;
 };
 
 /// Whether the file system has a file that matches `path`; the last element may hold the wild cards * and ?.

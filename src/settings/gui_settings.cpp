@@ -26,6 +26,7 @@ void GuiSettings::LoadGUISettings() {
     auto& frmSettings = shared_.frmSettings;
     const ConfigStore& config = shared_.config;
     dataFolder_.settle();
+    const ConfigStore::OneReading reading(config);
     SetCheckBox(frmSettings->chkClosePS2, config.text("ClosePS2"));
     SetCheckBox(frmSettings->chkShutdownPC, config.text("TurnOffPC"));
     SetCheckBox(frmSettings->chkStandby, config.text("StandbyPC"));

@@ -247,3 +247,16 @@ TEST_P(MarkedConfigStore, HalfACharacterAtTheEndIsNotLost) {
     config.write("IP", "10.0.0.1");
     EXPECT_EQ(file(), inForm("[tarnwell]\nIP=10.0.0.1\n") + "\xC3");
 }
+
+TEST_F(ConfigStoreTest, OneReadingSeesWhatTheProgramWritesAndNothingElse) {
+    put("[tarnwell]\r\nIP=10.0.0.1\r\nFont=Arial\r\n");
+    {
+        const ConfigStore::OneReading reading(config);
+        put("[tarnwell]\r\nIP=10.0.0.2\r\nFont=Arial\r\n");
+        EXPECT_EQ(config.text("IP"), "10.0.0.1");
+        config.write("Font", "Tahoma");
+        EXPECT_EQ(config.text("Font"), "Tahoma");
+    }
+    put("[tarnwell]\r\nIP=10.0.0.3\r\n");
+    EXPECT_EQ(config.text("IP"), "10.0.0.3");
+}
