@@ -61,7 +61,7 @@ int runAll(bool quick) {
 
 int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qputenv("QT_QPA_PLATFORM", TARNWELL_SCREENS);
     const bool isChild = argc > 2 && argv[1] == QByteArray("--child");
     if (isChild) {
         // Where anybody may have port 80, and nobody has it yet.
