@@ -18,6 +18,12 @@ if(CCACHE)
   target_compile_options(tarnwell_compiler INTERFACE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
 endif()
 
+# Sources are compiled several at a time, for most of the time goes into headers. A source among others looks like a
+# header to the compiler, which warns of unnamed namespaces in headers.
+if(CMAKE_UNITY_BUILD)
+  target_compile_options(tarnwell_compiler INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
+endif()
+
 # A library that no part of a program uses is not worth loading.
 if(UNIX)
   add_link_options(-Wl,--as-needed)

@@ -156,17 +156,17 @@ protected:
 };
 
 TEST_F(SystemDialogs, AreClosedByTheEndOfTheProgram) {
-    using Open = std::function<void(QtDialogs&)>;
-    for (const Open& open : {Open([](QtDialogs& dialogs) { dialogs.openFile({}); }),
-                             Open([](QtDialogs& dialogs) { dialogs.saveFile({}); }),
-                             Open([](QtDialogs& dialogs) { dialogs.chooseFolder({}); })}) {
+    using AskUser = std::function<void(QtDialogs&)>;
+    for (const AskUser& ask : {AskUser([](QtDialogs& dialogs) { dialogs.openFile({}); }),
+                               AskUser([](QtDialogs& dialogs) { dialogs.saveFile({}); }),
+                               AskUser([](QtDialogs& dialogs) { dialogs.chooseFolder({}); })}) {
         QtEventPump pump;
         QtDialogs dialogs(pump, [](std::int32_t) { return QColor(); });
         bool ended = false;
         test::runProgram(pump, [&] {
             QTimer::singleShot(1000, qApp, [&] { pump.end(); });
             try {
-                open(dialogs);
+                ask(dialogs);
             } catch (const ProgramEnded&) {
                 ended = true;
             }
