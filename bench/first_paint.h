@@ -48,6 +48,7 @@ public:
                 this,
                 [] {
                     std::printf("%.0f %.0f\n", now(), residentKilobytes());
+                    std::fflush(stdout);
                     QCoreApplication::exit();
                 },
                 Qt::QueuedConnection);

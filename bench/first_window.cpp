@@ -1,8 +1,5 @@
-#include "app/desktop/desktop_program.h"
 #include "first_paint.h"
 #include "measurements.h"
-
-#include <QCoreApplication>
 
 namespace tarnwell::bench {
 
@@ -26,7 +23,7 @@ struct Starts {
 } // namespace
 
 void measureFirstWindow(const FreshProcesses& processes, const Effort& effort, Report& report) {
-    const auto startProgram = [&] { return processes.child("first-window"); };
+    const auto startProgram = [&] { return processes.firstWindow(); };
     const auto startBare = [&] { return processes.bareWindow(); };
     // Once beforehand: files come into memory, and the program has settings.
     startProgram();
@@ -40,13 +37,6 @@ void measureFirstWindow(const FreshProcesses& processes, const Effort& effort, R
     report.add(pairedFigure("Start to the first painted window", "ms", program.milliseconds,
                             bare.milliseconds, kLongestStart));
     report.add(pairedFigure("Memory in use by then", "MB", program.megabytes, bare.megabytes, kMostMemory));
-}
-
-void firstWindow(int) {
-    const QString folder = QCoreApplication::applicationDirPath();
-    DesktopProgram program{QtSystemFolders(folder, folder)};
-    const FirstPaint firstPaint(program.mainWindow());
-    program.run();
 }
 
 } // namespace tarnwell::bench

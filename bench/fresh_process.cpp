@@ -23,16 +23,13 @@ FreshProcesses::FreshProcesses() {
     QFile::copy(here + "tarnwell-gui", program());
     QDir(folder_.path()).mkdir("plugins");
     QFile::copy(here + kListener, folder_.filePath(kListener));
+    QFile::copy(here + "bench_first_window", folder_.filePath("first-window"));
     QFile::copy(here + "bench_bare_window", folder_.filePath("bare-window"));
     QFile::copy(here + "bench_scripted_tool", folder_.filePath("tarnwell.exe"));
 }
 
 std::vector<double> FreshProcesses::child(const QString& act, const QStringList& arguments) const {
     return run("bench", QStringList{"--child", act} + arguments);
-}
-
-std::vector<double> FreshProcesses::bareWindow() const {
-    return run("bare-window", {});
 }
 
 QProcessEnvironment FreshProcesses::environmentOn(const QString& display) const {
@@ -45,8 +42,14 @@ QProcessEnvironment FreshProcesses::environmentOn(const QString& display) const 
 }
 
 std::vector<double> FreshProcesses::run(const QString& program, const QStringList& arguments) const {
+    return numbersPrintedBy(folder_.filePath(program), arguments, QProcessEnvironment::systemEnvironment());
+}
+
+std::vector<double> numbersPrintedBy(const QString& program, const QStringList& arguments,
+                                     const QProcessEnvironment& environment) {
     QProcess process;
-    process.start(folder_.filePath(program), arguments);
+    process.setProcessEnvironment(environment);
+    process.start(program, arguments);
     if (!process.waitForFinished(kLongestRunMs) || process.exitStatus() != QProcess::NormalExit ||
         process.exitCode() != 0) {
         std::fputs(process.readAllStandardError().constData(), stderr);

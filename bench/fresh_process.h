@@ -22,7 +22,10 @@ public:
 
     /// The numbers that the benchmark prints as the child `act`; none if it failed.
     std::vector<double> child(const QString& act, const QStringList& arguments = {}) const;
-    std::vector<double> bareWindow() const;
+    /// When the first window of the program, and of a bare one, had been painted, and the kilobytes in use
+    /// by then.
+    std::vector<double> firstWindow() const { return run("first-window", {}); }
+    std::vector<double> bareWindow() const { return run("bare-window", {}); }
 
     /// The program itself and a bare window, to be started by somebody else.
     QString program() const { return folder_.filePath("tarnwell-gui"); }
@@ -35,6 +38,10 @@ private:
 
     QTemporaryDir folder_;
 };
+
+/// What a program prints; none if it failed.
+std::vector<double> numbersPrintedBy(const QString& program, const QStringList& arguments,
+                                     const QProcessEnvironment& environment);
 
 /// In such a child: opens the program's main window, runs `work` in an event handler, and ends the program.
 void inProgram(const std::function<void(DesktopProgram&)>& work);

@@ -20,8 +20,7 @@ int runChild(const QStringList& arguments) {
     constexpr struct {
         const char* name;
         void (*run)(int);
-    } kChildren[] = {{"first-window", firstWindow},
-                     {"progress-load", progressLoad},
+    } kChildren[] = {{"progress-load", progressLoad},
                      {"command-delay", commandDelay},
                      {"interpreter-speed", interpreterSpeed},
                      {"game-list", gameList},
@@ -29,7 +28,8 @@ int runChild(const QStringList& arguments) {
                      {"scale", scale},
                      {"queue-overhead", queueOverhead},
                      {"dropped-images", droppedImages},
-                     {"status-pages", statusPages}};
+                     {"status-pages", statusPages},
+                     {"wine-starts", wineStarts}};
     for (const auto& child : kChildren) {
         if (arguments.value(0) == child.name) {
             child.run(arguments.value(1).toInt());
@@ -49,9 +49,10 @@ int runAll(bool quick) {
     const FreshProcesses processes;
     Report report;
     report.printHeadings();
-    for (const auto measure : {measureFirstWindow, measurePeers, measureProgressLoad, measureCommandDelay,
-                               measureInterpreterSpeed, measureGameList, measureSortedList, measureScale,
-                               measureQueueOverhead, measureDroppedImages, measureStatusPages})
+    for (const auto measure :
+         {measureFirstWindow, measurePeers, measureWineStarts, measureProgressLoad, measureCommandDelay,
+          measureInterpreterSpeed, measureGameList, measureSortedList, measureScale, measureQueueOverhead,
+          measureDroppedImages, measureStatusPages})
         measure(processes, effort, report);
     return report.complete() ? 0 : 1;
 }

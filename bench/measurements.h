@@ -18,6 +18,8 @@ struct Effort {
 
 void measureFirstWindow(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measurePeers(const FreshProcesses& processes, const Effort& effort, Report& report);
+/// Where the Windows programs were built.
+void measureWineStarts(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measureProgressLoad(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measureCommandDelay(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measureInterpreterSpeed(const FreshProcesses& processes, const Effort& effort, Report& report);
@@ -28,8 +30,7 @@ void measureQueueOverhead(const FreshProcesses& processes, const Effort& effort,
 void measureDroppedImages(const FreshProcesses& processes, const Effort& effort, Report& report);
 void measureStatusPages(const FreshProcesses& processes, const Effort& effort, Report& report);
 
-/// The children; `argument` is the part of the effort that concerns them.
-void firstWindow(int argument);
+/// The children; the argument is the part of the effort that concerns them.
 void progressLoad(int seconds);
 void commandDelay(int commands);
 void interpreterSpeed(int rounds);
@@ -39,5 +40,6 @@ void scale(int rounds);
 void queueOverhead(int jobs);
 void droppedImages(int images);
 void statusPages(int rounds);
+void wineStarts(int starts);
 
 } // namespace tarnwell::bench
