@@ -192,6 +192,14 @@ TEST_F(Window, WhatTheUserGaveStaysWhenTheActivityComesAndGoes) {
     EXPECT_EQ(window.size(), large);
 }
 
+TEST_F(Window, HasNoLimitThatWouldKeepWindowsFromOfferingToMaximiseIt) {
+    const QSize none(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    EXPECT_EQ(window.maximumSize(), none);
+    form.height = ui::FrmMain::kTallHeight;
+    serveEvents();
+    EXPECT_EQ(window.maximumSize(), none);
+}
+
 TEST_F(Window, MaximisedItStaysSoAndItsPartsTakeTheRoom) {
     samples::games(form, 12);
     const QSize usual = window.size();

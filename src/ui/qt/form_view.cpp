@@ -121,7 +121,9 @@ void FormView::showSize() {
     const QSize before = normalSize();
     const QSize now = size_.show(wanted + bars, before, room);
     setMinimumSize((least + bars).boundedTo(room));
-    setMaximumHeight(std::min(inside(heights.most) + bars.height(), QWIDGETSIZE_MAX));
+    // Windows offers to maximise what has no limit at all.
+    const bool unlimited = heights.most == WindowLayout::kAnyHeight;
+    setMaximumHeight(unlimited ? QWIDGETSIZE_MAX : inside(heights.most) + bars.height());
     if (isMaximized()) {
         sizeAfterMaximised_ = now;
         return;
