@@ -2,11 +2,10 @@
 #include "first_paint.h"
 #include "measurements.h"
 
-#include <arpa/inet.h>
+#include <QTcpSocket>
+
 #include <atomic>
-#include <sys/socket.h>
 #include <thread>
-#include <unistd.h>
 
 namespace tarnwell::bench {
 
@@ -15,50 +14,16 @@ namespace {
 constexpr int kVisitsPerSecond = 10;
 constexpr double kNanosecondsPerSecond = 1e9;
 
-/// A visitor's side of a connection, which waits for everything for a second at most.
-class Connection {
-public:
-    Connection() {
-        constexpr timeval kPatience{.tv_sec = 1, .tv_usec = 0};
-        for (const int wait : {SO_RCVTIMEO, SO_SNDTIMEO})
-            ::setsockopt(socket_, SOL_SOCKET, wait, &kPatience, sizeof kPatience);
-    }
-    ~Connection() { ::close(socket_); }
-    Connection(const Connection&) = delete;
-    Connection& operator=(const Connection&) = delete;
-
-    bool open(quint16 port) const {
-        const sockaddr_in here{.sin_family = AF_INET,
-                               .sin_port = htons(port),
-                               .sin_addr = {htonl(INADDR_LOOPBACK)},
-                               .sin_zero = {}};
-        return ::connect(socket_, reinterpret_cast<const sockaddr*>(&here), sizeof here) == 0;
-    }
-    void write(const QByteArray& bytes) const {
-        [[maybe_unused]] const auto sent = ::send(socket_, bytes.data(), std::size_t(bytes.size()), 0);
-    }
-    /// Empty when nothing came.
-    QByteArray read() const {
-        QByteArray bytes(4096, Qt::Uninitialized);
-        const auto size = ::recv(socket_, bytes.data(), std::size_t(bytes.size()), 0);
-        return bytes.first(std::max<qsizetype>(size, 0));
-    }
-
-private:
-    const int socket_ = ::socket(AF_INET, SOCK_STREAM, 0);
-};
-
 bool fetchPage() {
-    const Connection connection;
-    if (!connection.open(80))
+    constexpr int kAnswerMs = 1000;
+    QTcpSocket socket;
+    socket.connectToHost(QHostAddress::LocalHost, 80);
+    if (!socket.waitForConnected(kAnswerMs))
         return false;
-    connection.write("GET / HTTP/1.1\r\nHost: localhost\r\n\r\n");
+    socket.write("GET / HTTP/1.1\r\nHost: localhost\r\n\r\n");
     QByteArray answer;
-    for (QByteArray piece = connection.read(); !piece.isEmpty(); piece = connection.read()) {
-        answer += piece;
-        if (answer.endsWith("</html>\r\n"))
-            break;
-    }
+    while (!answer.endsWith("</html>\r\n") && socket.waitForReadyRead(kAnswerMs))
+        answer += socket.readAll();
     return answer.startsWith("HTTP/1.0 200 OK\r\n") && answer.endsWith("</html>\r\n");
 }
 
