@@ -20,7 +20,7 @@ endif()
 
 # Sources are compiled several at a time, for most of the time goes into headers. A source among others looks like a
 # header to the compiler, which warns of unnamed namespaces in headers.
-if(CMAKE_UNITY_BUILD AND NOT CMAKE_CXX_CLANG_TIDY)
+if(NOT CMAKE_CXX_CLANG_TIDY)
   target_compile_options(tarnwell_compiler INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
 endif()
 
