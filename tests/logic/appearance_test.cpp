@@ -292,6 +292,13 @@ TEST_F(AppearanceTest, AChosenFontIsStoredWithItsFractionAndAppliedWithout) {
     EXPECT_EQ(frmStatus->cmdStop.font.get(), frmSettings.cmdFont.font.get());
 }
 
+TEST_F(AppearanceTest, AStatusWindowThatIsUpGetsAFontThatIsChosenMeanwhile) {
+    frmStatus->show();
+    ports.dialogs.chooseFontAnswers = {kChosen};
+    ui::click(frmSettings.cmdFont);
+    EXPECT_EQ(frmStatus->cmdStop.font.get(), (ui::Font{"DejaVu Serif", 8, true, false}));
+}
+
 TEST_F(AppearanceTest, AChosenSizeGoesToTheNearestWholeOne) {
     ports.dialogs.chooseFontAnswers = {ui::Font{"DejaVu Serif", 8.75}};
     ui::click(frmSettings.cmdFont);
