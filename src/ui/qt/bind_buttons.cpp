@@ -31,28 +31,14 @@ public:
 
     QSize minimumSizeHint() const override {
         constexpr int kRoomBesideText = 8;
-        return {textWidth() + 2 * kRoomBesideText, QPushButton::sizeHint().height()};
+        const int textWidth = fontMetrics().size(Qt::TextShowMnemonic, text()).width();
+        return {textWidth + 2 * kRoomBesideText, QPushButton::sizeHint().height()};
     }
 
 protected:
     /// A double click counts once: its second half would start the same work again while the first is at it.
     /// The second press has come by now, and is taken back before it becomes a click.
     void mouseDoubleClickEvent(QMouseEvent*) override { setDown(false); }
-
-private:
-    /// Layouts ask several times before the first painting, and measuring costs as much as painting.
-    int textWidth() const {
-        if (measuredText_ != text() || measuredFont_ != font()) {
-            measuredText_ = text();
-            measuredFont_ = font();
-            width_ = fontMetrics().size(Qt::TextShowMnemonic, text()).width();
-        }
-        return width_;
-    }
-
-    mutable QString measuredText_;
-    mutable QFont measuredFont_;
-    mutable int width_ = 0;
 };
 
 /// The model decides what a click means, and may take hours for it; the widget shows nothing by itself.
